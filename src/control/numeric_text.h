@@ -1,0 +1,19 @@
+#pragma once
+// Numbers as text, both ways, with Basic's rules.
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace vorlex {
+
+// The number a string holds, as conversions read it: surrounding spaces, a
+// sign, digits with a decimal point and an exponent (E or D), or &H / &O
+// literals (16-bit when they fit, else 32-bit, both signed). An out-of-range
+// decimal gives infinity; text that is no number gives nothing.
+std::optional<double> ParseNumericText(std::string_view text);
+
+std::string_view TrimSpaces(std::string_view text);
+bool EqualsIgnoringCase(std::string_view a, std::string_view b);
+
+}  // namespace vorlex

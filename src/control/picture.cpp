@@ -1,0 +1,17 @@
+#include "vorlex/Picture.h"
+
+namespace vorlex {
+
+namespace {
+class NoPicture final : public Picture {
+ public:
+  int16_t Type() const override { return kPicTypeNone; }
+  uint32_t Handle() const override { return 0; }
+  int32_t PixelWidth() const override { return 0; }
+  int32_t PixelHeight() const override { return 0; }
+};
+}  // namespace
+
+PicturePtr EmptyPicture() { return std::make_shared<NoPicture>(); }
+
+}  // namespace vorlex
