@@ -111,27 +111,23 @@ void Vorlex::put_Redraw(VARIANT_BOOL value) { d->SetProperty(d->redraw, value, "
 // Timer settings are handed to their timer objects and never redraw.
 int32_t Vorlex::get_TimerTimeInterval() const { return d->timerTimeInterval; }
 void Vorlex::put_TimerTimeInterval(int32_t value) {
-  d->timerTimeInterval = value;
-  d->site.PropertyChanged("TimerTimeInterval");
-  d->timerTimeInformation->SetInterval(value);
+  d->SetTimerProperty(d->timerTimeInterval, value, "TimerTimeInterval", *d->timerTimeInformation,
+                      &clsTimer::SetInterval);
 }
 VARIANT_BOOL Vorlex::get_TimerTimeEnabled() const { return d->timerTimeEnabled; }
 void Vorlex::put_TimerTimeEnabled(VARIANT_BOOL value) {
-  d->timerTimeEnabled = value;
-  d->site.PropertyChanged("TimerTimeEnabled");
-  d->timerTimeInformation->SetEnabled(value);
+  d->SetTimerProperty(d->timerTimeEnabled, value, "TimerTimeEnabled", *d->timerTimeInformation,
+                      &clsTimer::SetEnabled);
 }
 int32_t Vorlex::get_TimerDiskInterval() const { return d->timerDiskInterval; }
 void Vorlex::put_TimerDiskInterval(int32_t value) {
-  d->timerDiskInterval = value;
-  d->site.PropertyChanged("TimerDiskInterval");
-  d->timerDiskInformation->SetInterval(value);
+  d->SetTimerProperty(d->timerDiskInterval, value, "TimerDiskInterval", *d->timerDiskInformation,
+                      &clsTimer::SetInterval);
 }
 VARIANT_BOOL Vorlex::get_TimerDiskEnabled() const { return d->timerDiskEnabled; }
 void Vorlex::put_TimerDiskEnabled(VARIANT_BOOL value) {
-  d->timerDiskEnabled = value;
-  d->site.PropertyChanged("TimerDiskEnabled");
-  d->timerDiskInformation->SetEnabled(value);
+  d->SetTimerProperty(d->timerDiskEnabled, value, "TimerDiskEnabled", *d->timerDiskInformation,
+                      &clsTimer::SetEnabled);
 }
 
 int32_t Vorlex::get_RivetsStyle() const { return d->rivetsStyle; }

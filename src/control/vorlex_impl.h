@@ -97,6 +97,14 @@ struct Vorlex::Impl {
     RedrawBar();
   }
 
+  // A timer setting: store, notify by name, hand it to the timer; no redraw.
+  template <class T>
+  void SetTimerProperty(T& field, T value, std::string_view name, clsTimer& timer, void (clsTimer::*apply)(T)) {
+    field = value;
+    site.PropertyChanged(name);
+    (timer.*apply)(value);
+  }
+
   // A bulk setter: store into every block, notify "Block" if asked, redraw.
   template <class Store>
   Variant ForEachBlock(Store&& store, bool notify) {
