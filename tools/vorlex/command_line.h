@@ -1,0 +1,14 @@
+#pragma once
+// The vorlex tool as a function of its arguments: what it writes and its exit
+// status (0 success, 2 bad usage).
+
+#include <ostream>
+#include <string>
+#include <vector>
+
+namespace vorlex::cli {
+
+// args are the arguments after the program name.
+int RunCommandLine(const std::vector<std::string>& args, std::ostream& out, std::ostream& err);
+
+}  // namespace vorlex::cli

@@ -1,0 +1,26 @@
+// Carrying out a statement through the control's automation table.
+
+#include "dispatch.h"
+
+#include <utility>
+#include <vector>
+
+namespace vorlex::cli {
+
+InvokeKind CallKind(const Statement& statement) {
+  if (!statement.value) {
+    return FindMember(statement.name, InvokeKind::PropertyGet) ? InvokeKind::PropertyGet : InvokeKind::Method;
+  }
+  const bool hasPut = FindMember(statement.name, InvokeKind::PropertyPut) != nullptr;
+  const bool hasPutRef = FindMember(statement.name, InvokeKind::PropertyPutRef) != nullptr;
+  if (hasPutRef && (statement.value->IsObject() || !hasPut)) return InvokeKind::PropertyPutRef;
+  return InvokeKind::PropertyPut;
+}
+
+Variant Execute(Vorlex& control, const Statement& statement) {
+  std::vector<Variant> args = statement.args;
+  if (statement.value) args.push_back(*statement.value);
+  return Invoke(control, statement.name, CallKind(statement), std::move(args));
+}
+
+}  // namespace vorlex::cli

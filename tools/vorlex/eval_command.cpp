@@ -1,0 +1,42 @@
+// The eval command: runs statements against a control and prints what they yield.
+
+#include "eval_command.h"
+
+#include <optional>
+#include <string>
+
+#include "dispatch.h"
+#include "result_text.h"
+#include "source.h"
+#include "vorlex/AutomationError.h"
+
+namespace vorlex::cli {
+
+void EvalStatements(Vorlex& control, const std::vector<Statement>& statements, std::ostream& out) {
+  for (const Statement& statement : statements) {
+    try {
+      const std::optional<std::string> line = ResultText(Execute(control, statement));
+      if (line) out << *line << '\n';
+    } catch (const AutomationError& error) {
+      out << "error " << error.Number() << '\n';
+    }
+  }
+}
+
+int RunEval(const Options& options, std::ostream& out, std::ostream& err) {
+  std::vector<Statement> statements;
+  for (const std::string& text : options.statements) {
+    try {
+      statements.push_back(ParseStatement(text));
+    } catch (const SyntaxError& error) {
+      err << "vorlex: cannot read statement \"" << text << "\": " << error.what() << '\n';
+      return 2;
+    }
+  }
+
+  const PlacedControl placed = PlaceNewControl(options);
+  EvalStatements(*placed.control, statements, out);
+  return 0;
+}
+
+}  // namespace vorlex::cli

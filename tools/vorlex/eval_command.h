@@ -1,0 +1,24 @@
+#pragma once
+// The eval command: runs statements against a control and prints what they yield.
+
+#include <ostream>
+#include <vector>
+
+#include "options.h"
+#include "statement.h"
+#include "vorlex/Vorlex.h"
+
+namespace vorlex::cli {
+
+// Runs the statements in order, writing one line for each that yields a value
+// (see ResultText) and "error N" for each that raises automation error N, then
+// going on with the next.
+void EvalStatements(Vorlex& control, const std::vector<Statement>& statements, std::ostream& out);
+
+// The whole command: reads every statement first (one that does not parse is
+// bad usage: a one-line message on err, nothing run, status 2), then places a
+// new control (PlaceNewControl) and runs them.
+// Returns the exit status: 0, or 2 for a statement that does not parse.
+int RunEval(const Options& options, std::ostream& out, std::ostream& err);
+
+}  // namespace vorlex::cli
