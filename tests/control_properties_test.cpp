@@ -281,3 +281,21 @@ TEST_F(ControlPropertiesTest, TimerSettingsNotifyWithoutRedrawing) {
   EXPECT_EQ(control.get_TimerTimeEnabled(), VARIANT_TRUE);
   EXPECT_EQ(control.get_TimerDiskEnabled(), VARIANT_TRUE);
 }
+
+namespace {
+// A host window that refuses a foreground colour.
+class RefusingSite : public HeadlessSite {
+ public:
+  void SetForeColor(OLE_COLOR) override { throw AutomationError(kErrInvalidPropertyValue); }
+};
+}  // namespace
+
+TEST(ControlHostWindow, AFailingHostCallReachesTheCallerUnchanged) {
+  RefusingSite site;
+  Vorlex control(site);
+  control.InitProperties();
+  site.ClearRecords();
+  EXPECT_AUTOMATION_ERROR(control.put_ForeColor(0xFF), kErrInvalidPropertyValue);
+  EXPECT_TRUE(site.Notifications().empty());
+  EXPECT_EQ(site.Paints(), 0);
+}
