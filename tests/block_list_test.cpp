@@ -118,6 +118,11 @@ TEST_F(DeleteBlockTest, AKeyOfABlockStillRemovesTheLastBlock) {
   EXPECT_EQ(Keys(), (std::vector<std::string>{"k1", "k2"}));
 }
 
+TEST_F(DeleteBlockTest, ANumericStringIsStillAStringAndRemovesTheLastBlock) {
+  control.DeleteBlock(Key("1"));
+  EXPECT_EQ(Keys(), (std::vector<std::string>{"k1", "k2"}));
+}
+
 TEST_F(DeleteBlockTest, ZeroOrLessRemovesBlock1) {
   control.DeleteBlock(Number(0));
   EXPECT_EQ(Keys(), (std::vector<std::string>{"k2", "k3"}));

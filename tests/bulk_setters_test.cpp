@@ -75,7 +75,7 @@ TEST_F(BulkSettersTest, SetBlockBarTopDividesTwipsByTheVerticalFactor) {
   control.SetBlockBarTop(300);
   for (int i = 1; i <= 3; ++i) EXPECT_EQ(control.get_BlockBarTop(Number(i)), 20);
   control.SetBlockBarTop(-7);
-  EXPECT_EQ(control.get_BlockBarTop(Number(1)), 0);
+  for (int i = 1; i <= 3; ++i) EXPECT_EQ(control.get_BlockBarTop(Number(i)), 0);
   control.SetBlockBarTop(-31);
   EXPECT_EQ(control.get_BlockBarTop(Number(1)), -2);
 }
