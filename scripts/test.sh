@@ -1,0 +1,275 @@
+#!/usr/bin/env bash
+# Sets up a Debian machine, builds every preset and runs the test suites:
+#   native, native-asan   ctest
+#   win64                 ctest, every test executable under Wine
+#   win32                 built and linked; run only when a 32-bit Wine works
+# Ends with one line "N passed, N failed" (test cases over every suite that ran;
+# skipped and disabled ones are counted on the line before) and exits non-zero
+# when a build or a test failed.
+#
+# Environment:
+#   VORLEX_JOBS           parallel build and test jobs (default: ninja's and nproc)
+#   VORLEX_WINEPREFIX     the Wine prefix (default: build/wineprefix)
+#   VORLEX_TEST_TIMEOUT   seconds allowed to one test (default 300; doubled under
+#                         the sanitizers, tripled under Wine)
+set -euo pipefail
+
+repo="$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)"
+cd "$repo"
+
+# ---------------------------------------------------------------------------
+# Set-up: install only what is missing.
+
+missing=()
+command -v cmake >/dev/null 2>&1 || missing+=(cmake)
+command -v ninja >/dev/null 2>&1 || missing+=(ninja-build)
+command -v g++ >/dev/null 2>&1 || missing+=(g++)
+[[ -f /usr/src/googletest/CMakeLists.txt ]] || missing+=(googletest)
+[[ -f /usr/include/benchmark/benchmark.h ]] || missing+=(libbenchmark-dev)
+command -v x86_64-w64-mingw32-g++-posix >/dev/null 2>&1 || missing+=(g++-mingw-w64-x86-64)
+command -v i686-w64-mingw32-g++-posix >/dev/null 2>&1 || missing+=(g++-mingw-w64-i686)
+[[ -x /usr/lib/wine/wine64 ]] || command -v wine64 >/dev/null 2>&1 || missing+=(wine64)
+[[ -x /usr/bin/wine ]] || missing+=(wine)
+
+if ((${#missing[@]})); then
+  echo "== installing: ${missing[*]}"
+  sudo=()
+  if [[ $(id -u) -ne 0 ]]; then
+    if command -v sudo >/dev/null 2>&1; then
+      sudo=(sudo)
+    else
+      echo "error: ${missing[*]} missing and not running as root" >&2
+      exit 1
+    fi
+  fi
+  mkdir -p build
+  export DEBIAN_FRONTEND=noninteractive
+  if ! { "${sudo[@]}" apt-get update -q &&
+         "${sudo[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -q "${missing[@]}"; } \
+       >build/apt.log 2>&1 </dev/null; then
+    tail -n 40 build/apt.log >&2
+    echo "error: apt-get could not install ${missing[*]} (log: build/apt.log)" >&2
+    exit 1
+  fi
+fi
+
+jobs="${VORLEX_JOBS:-$(nproc)}"
+build_jobs=()
+[[ -n "${VORLEX_JOBS:-}" ]] && build_jobs=(--parallel "$VORLEX_JOBS")
+test_timeout="${VORLEX_TEST_TIMEOUT:-300}"
+
+results="$repo/build/test-results"
+mkdir -p "$results"
+
+failures=()   # what went wrong, beyond failed test cases
+total_passed=0
+total_failed=0
+total_skipped=0
+
+# ---------------------------------------------------------------------------
+# Builds.
+
+declare -A built=()
+
+# A build folder configured from another source folder or with another
+# generator (a copied tree, say) cannot be reused.
+clear_stale_build() {
+  local dir="$repo/build/$1" cache home gen
+  cache="$dir/CMakeCache.txt"
+  [[ -f "$cache" ]] || return 0
+  home="$(sed -n 's/^CMAKE_HOME_DIRECTORY:INTERNAL=//p' "$cache")"
+  gen="$(sed -n 's/^CMAKE_GENERATOR:INTERNAL=//p' "$cache")"
+  if [[ "$home" != "$repo" || "$gen" != "Ninja" ]]; then
+    echo "== $1: removing a build folder configured elsewhere"
+    rm -rf "$dir"
+  fi
+}
+
+for preset in native native-asan win64 win32; do
+  echo "== configure $preset"
+  clear_stale_build "$preset"
+  if ! cmake --preset "$preset"; then
+    failures+=("the $preset configuration failed")
+    continue
+  fi
+  echo "== build $preset"
+  if ! cmake --build --preset "$preset" "${build_jobs[@]}"; then
+    failures+=("the $preset build failed")
+    continue
+  fi
+  built[$preset]=1
+done
+
+# ---------------------------------------------------------------------------
+# Counting.
+
+# ctest's JUnit report: one test case per CTest test.
+count_ctest_junit() {
+  local file="$1" status
+  TIER_PASSED=0 TIER_FAILED=0 TIER_SKIPPED=0
+  [[ -f "$file" ]] || return 0
+  while IFS= read -r status; do
+    case "$status" in
+      run) TIER_PASSED=$((TIER_PASSED + 1)) ;;
+      fail) TIER_FAILED=$((TIER_FAILED + 1)) ;;
+      *) TIER_SKIPPED=$((TIER_SKIPPED + 1)) ;;
+    esac
+  done < <(sed -n 's/^[[:space:]]*<testcase .* status="\([a-z]*\)".*/\1/p' "$file")
+}
+
+# An attribute of the <testsuites> element of a GoogleTest XML report.
+gtest_attr() {
+  local tag value
+  tag="$(tr '\r\n' '  ' <"$1" | grep -o '<testsuites [^>]*>' | head -n 1 || true)"
+  value="$(sed -n 's/.*[[:space:]]'"$2"'="\([0-9]*\)".*/\1/p' <<<"$tag")"
+  echo "${value:-0}"
+}
+
+# GoogleTest XML reports, one per executable, checked against ctest's report of
+# the executables: one that failed without a failed case (a crash, a timeout),
+# or that wrote no report at all, counts as one failed case.
+count_gtest_xml() {
+  local junit="$1" xmldir="$2" xml tests failed disabled skipped name status
+  TIER_PASSED=0 TIER_FAILED=0 TIER_SKIPPED=0
+  for xml in "$xmldir"/*.xml; do
+    [[ -f "$xml" ]] || continue
+    tests="$(gtest_attr "$xml" tests)"
+    failed=$(($(gtest_attr "$xml" failures) + $(gtest_attr "$xml" errors)))
+    disabled="$(gtest_attr "$xml" disabled)"
+    skipped="$(grep -c 'result="skipped"' "$xml" || true)"
+    TIER_PASSED=$((TIER_PASSED + tests - failed - disabled - skipped))
+    TIER_FAILED=$((TIER_FAILED + failed))
+    TIER_SKIPPED=$((TIER_SKIPPED + disabled + skipped))
+  done
+  [[ -f "$junit" ]] || return 0
+  while read -r name status; do
+    xml="$xmldir/$name.xml"
+    if [[ "$status" == fail ]]; then
+      if [[ ! -f "$xml" ]] || (($(gtest_attr "$xml" failures) + $(gtest_attr "$xml" errors) == 0)); then
+        TIER_FAILED=$((TIER_FAILED + 1))
+      fi
+    elif [[ ! -f "$xml" ]]; then
+      echo "== $name ran but wrote no test report"
+      TIER_FAILED=$((TIER_FAILED + 1))
+    fi
+  done < <(sed -n 's/^[[:space:]]*<testcase name="\([^"]*\)".* status="\([a-z]*\)".*/\1 \2/p' "$junit")
+}
+
+add_tier() {
+  echo "== $1 results: passed $TIER_PASSED, failed $TIER_FAILED, skipped $TIER_SKIPPED"
+  total_passed=$((total_passed + TIER_PASSED))
+  total_failed=$((total_failed + TIER_FAILED))
+  total_skipped=$((total_skipped + TIER_SKIPPED))
+}
+
+# ---------------------------------------------------------------------------
+# Native suites.
+
+run_native() {
+  local preset="$1" timeout="$2" junit="$results/$1.xml" rc=0
+  echo "== test $preset"
+  rm -f "$junit"
+  timeout -k 30 1800 ctest --test-dir "build/$preset" -j "$jobs" --timeout "$timeout" \
+    --output-on-failure --no-tests=error --output-junit "$junit" </dev/null || rc=$?
+  count_ctest_junit "$junit"
+  add_tier "$preset"
+  if ((rc != 0 && TIER_FAILED == 0)); then
+    failures+=("ctest for $preset exited with status $rc")
+  fi
+}
+
+if [[ -n "${built[native]:-}" ]]; then
+  run_native native "$test_timeout"
+fi
+if [[ -n "${built[native-asan]:-}" ]]; then
+  ASAN_OPTIONS="${ASAN_OPTIONS:-detect_leaks=1}" \
+  UBSAN_OPTIONS="${UBSAN_OPTIONS:-print_stacktrace=1:halt_on_error=1}" \
+    run_native native-asan $((test_timeout * 2))
+fi
+
+# ---------------------------------------------------------------------------
+# Windows suites under Wine.
+
+export VORLEX_WINEPREFIX="${VORLEX_WINEPREFIX:-$repo/build/wineprefix}"
+unset DISPLAY WAYLAND_DISPLAY
+export WINEDEBUG=-all
+wine_run="$repo/scripts/wine-run.sh"
+wine_state=""   # "", ok or broken
+
+stop_wine() {
+  if [[ -n "$wine_state" ]]; then
+    bash "$wine_run" --stop </dev/null || true
+  fi
+}
+trap stop_wine EXIT
+
+wine_ready() {
+  if [[ -z "$wine_state" ]]; then
+    echo "== preparing the Wine prefix $VORLEX_WINEPREFIX"
+    if bash "$wine_run" --init </dev/null; then
+      wine_state=ok
+    else
+      wine_state=broken
+    fi
+  fi
+  [[ "$wine_state" == ok ]]
+}
+
+run_wine() {
+  local preset="$1" junit="$results/$1.xml" xmldir="$results/$1-gtest" rc=0 winpath
+  echo "== test $preset (Wine)"
+  rm -f "$junit"
+  rm -rf "$xmldir"
+  mkdir -p "$xmldir"
+  # GoogleTest writes one report per executable; the folder as Windows sees it.
+  winpath="Z:${xmldir//\//\\}\\"
+  GTEST_OUTPUT="xml:$winpath" \
+    timeout -k 30 1800 ctest --test-dir "build/$preset" -j "$jobs" --timeout $((test_timeout * 3)) \
+      --output-on-failure --no-tests=error --output-junit "$junit" </dev/null || rc=$?
+  count_gtest_xml "$junit" "$xmldir"
+  add_tier "$preset"
+  if ((rc != 0 && TIER_FAILED == 0)); then
+    failures+=("ctest for $preset exited with status $rc")
+  fi
+}
+
+if [[ -n "${built[win64]:-}" ]]; then
+  if wine_ready; then
+    run_wine win64
+  else
+    failures+=("Wine could not prepare its prefix for the win64 suites")
+  fi
+fi
+
+# A 64-bit-only Wine may start a 32-bit program, fail and still exit 0:
+# the probe must list its tests.
+win32_works() {
+  local listing
+  listing="$(timeout -k 5 60 bash "$wine_run" "$1" --gtest_list_tests </dev/null 2>/dev/null)" || return 1
+  grep -q '^[A-Za-z_][A-Za-z0-9_/]*\.' <<<"$listing"
+}
+
+if [[ -n "${built[win32]:-}" ]]; then
+  probe="$(find build/win32 -name '*_test.exe' -type f -print -quit)"
+  if [[ -z "$probe" ]]; then
+    echo "== win32: no test executable was built"
+  elif wine_ready && win32_works "$probe"; then
+    run_wine win32
+  else
+    echo "== win32: the executables were built but not run because no 32-bit Wine is available"
+  fi
+fi
+
+# ---------------------------------------------------------------------------
+# Summary.
+
+status=0
+for failure in "${failures[@]}"; do
+  echo "FAILED: $failure"
+  status=1
+done
+((total_failed == 0)) || status=1
+
+((total_skipped == 0)) || echo "== skipped or disabled test cases: $total_skipped"
+echo "$total_passed passed, $total_failed failed"
+exit "$status"
