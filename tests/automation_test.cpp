@@ -21,40 +21,40 @@ struct Expected {
 // Every member of _Vorlex with its published dispatch identifier.
 const std::vector<Expected>& ExpectedMembers() {
   static const std::vector<Expected> members = {
-      {"BlockKey", 0x68030027, Get|Put},
-      {"BlockBarLeft", 0x68030026, Get|Put},
-      {"BlockBarRight", 0x68030025, Get|Put},
-      {"BlockBarTop", 0x68030024, Get|Put},
-      {"BlockBarBottom", 0x68030023, Get|Put},
-      {"BlockBorderStyle", 0x68030022, Get|Put},
-      {"BlockBorderWidth", 0x68030021, Get|Put},
-      {"BlockShapeStyle", 0x68030020, Get|Put},
-      {"BlockBrushStyle", 0x6803001f, Get|Put},
-      {"BlockBrushColor", 0x6803001e, Get|Put},
-      {"BlockVisible", 0x6803001d, Get|Put},
-      {"BlockHPercentage", 0x6803001c, Get|Put},
-      {"BlockVPercentage", 0x6803001b, Get|Put},
-      {"BlockOnTop", 0x6803001a, Get|Put},
-      {"BlockColor", 0x68030019, Get|Put},
-      {"BlockGradientStyle", 0x68030018, Get|Put},
-      {"BlockGradientGranularity", 0x68030017, Get|Put},
-      {"BlockGradientColor", 0x68030016, Get|Put},
-      {"BlockGradientColorEnd", 0x68030015, Get|Put},
-      {"BlockText", 0x68030014, Get|Put},
-      {"BlockTextColor", 0x68030013, Get|Put},
-      {"BlockTextAlignment", 0x68030012, Get|Put},
-      {"BlockTextFont", 0x68030011, Get|Put},
-      {"BlockTextFont3D", 0x68030010, Get|Put},
-      {"BlockTextOffset", 0x6803000f, Get|Put},
-      {"BlockTextAngle", 0x6803000e, Get|Put},
-      {"BlockTextAutoAngle", 0x6803000d, Get|Put},
-      {"BlockRivetsStyle", 0x6803000c, Get|Put},
-      {"BlockPicture", 0x6803000b, Get|PutRef},
-      {"BlockPictureOffset", 0x6803000a, Get|Put},
-      {"BlockPictureAlignment", 0x68030009, Get|Put},
-      {"BlockPictureTile", 0x68030008, Get|Put},
-      {"BlockClickable", 0x68030001, Get|Put},
-      {"BlockAutoSize", 0x68030000, Get|Put},
+      {"BlockKey", 0x68030027, Get | Put},
+      {"BlockBarLeft", 0x68030026, Get | Put},
+      {"BlockBarRight", 0x68030025, Get | Put},
+      {"BlockBarTop", 0x68030024, Get | Put},
+      {"BlockBarBottom", 0x68030023, Get | Put},
+      {"BlockBorderStyle", 0x68030022, Get | Put},
+      {"BlockBorderWidth", 0x68030021, Get | Put},
+      {"BlockShapeStyle", 0x68030020, Get | Put},
+      {"BlockBrushStyle", 0x6803001f, Get | Put},
+      {"BlockBrushColor", 0x6803001e, Get | Put},
+      {"BlockVisible", 0x6803001d, Get | Put},
+      {"BlockHPercentage", 0x6803001c, Get | Put},
+      {"BlockVPercentage", 0x6803001b, Get | Put},
+      {"BlockOnTop", 0x6803001a, Get | Put},
+      {"BlockColor", 0x68030019, Get | Put},
+      {"BlockGradientStyle", 0x68030018, Get | Put},
+      {"BlockGradientGranularity", 0x68030017, Get | Put},
+      {"BlockGradientColor", 0x68030016, Get | Put},
+      {"BlockGradientColorEnd", 0x68030015, Get | Put},
+      {"BlockText", 0x68030014, Get | Put},
+      {"BlockTextColor", 0x68030013, Get | Put},
+      {"BlockTextAlignment", 0x68030012, Get | Put},
+      {"BlockTextFont", 0x68030011, Get | Put},
+      {"BlockTextFont3D", 0x68030010, Get | Put},
+      {"BlockTextOffset", 0x6803000f, Get | Put},
+      {"BlockTextAngle", 0x6803000e, Get | Put},
+      {"BlockTextAutoAngle", 0x6803000d, Get | Put},
+      {"BlockRivetsStyle", 0x6803000c, Get | Put},
+      {"BlockPicture", 0x6803000b, Get | PutRef},
+      {"BlockPictureOffset", 0x6803000a, Get | Put},
+      {"BlockPictureAlignment", 0x68030009, Get | Put},
+      {"BlockPictureTile", 0x68030008, Get | Put},
+      {"BlockClickable", 0x68030001, Get | Put},
+      {"BlockAutoSize", 0x68030000, Get | Put},
       {"Blocks", 0x68030028, Get | Put},
       {"IndexBlock", 0x68030002, Get | Put},
       {"AddBlock", 0x60030071, Call},
@@ -130,10 +130,14 @@ const std::vector<Expected>& ExpectedMembers() {
 
 InvokeKind KindOf(unsigned bit) {
   switch (bit) {
-    case Get: return InvokeKind::PropertyGet;
-    case Put: return InvokeKind::PropertyPut;
-    case PutRef: return InvokeKind::PropertyPutRef;
-    default: return InvokeKind::Method;
+    case Get:
+      return InvokeKind::PropertyGet;
+    case Put:
+      return InvokeKind::PropertyPut;
+    case PutRef:
+      return InvokeKind::PropertyPutRef;
+    default:
+      return InvokeKind::Method;
   }
 }
 }  // namespace
@@ -248,10 +252,8 @@ TEST_F(AutomationInvokeTest, ArgumentsConvertWithTheAutomationRules) {
   EXPECT_EQ(control.get_BorderWidth(), 2);
   Invoke(control, "Redraw", InvokeKind::PropertyPut, {Variant(int16_t{5})});
   EXPECT_EQ(control.get_Redraw(), VARIANT_TRUE);
-  EXPECT_AUTOMATION_ERROR(Invoke(control, "BorderWidth", InvokeKind::PropertyPut, {Variant(32767.5)}),
-                          kErrOverflow);
-  EXPECT_AUTOMATION_ERROR(Invoke(control, "BorderWidth", InvokeKind::PropertyPut, {Variant("abc")}),
-                          kErrTypeMismatch);
+  EXPECT_AUTOMATION_ERROR(Invoke(control, "BorderWidth", InvokeKind::PropertyPut, {Variant(32767.5)}), kErrOverflow);
+  EXPECT_AUTOMATION_ERROR(Invoke(control, "BorderWidth", InvokeKind::PropertyPut, {Variant("abc")}), kErrTypeMismatch);
   Invoke(control, "BorderWidth", InvokeKind::PropertyPut, {Variant()});
   EXPECT_EQ(control.get_BorderWidth(), 0);
   Invoke(control, "BorderWidth", InvokeKind::PropertyPut, {Variant::Boolean(true)});
@@ -264,8 +266,7 @@ TEST_F(AutomationInvokeTest, ColoursAcceptSignedAndUnsignedThirtyTwoBitValues) {
   Invoke(control, "BackColor", InvokeKind::PropertyPut, {Variant(4294967295.0)});
   EXPECT_EQ(control.get_BackColor(), 0xFFFFFFFFu);
   EXPECT_EQ(Invoke(control, "BackColor", InvokeKind::PropertyGet, {}).ToLong(), -1);
-  EXPECT_AUTOMATION_ERROR(Invoke(control, "BackColor", InvokeKind::PropertyPut, {Variant(4294967296.0)}),
-                          kErrOverflow);
+  EXPECT_AUTOMATION_ERROR(Invoke(control, "BackColor", InvokeKind::PropertyPut, {Variant(4294967296.0)}), kErrOverflow);
 }
 
 TEST_F(AutomationInvokeTest, ObjectsGoThroughPutRef) {
@@ -304,8 +305,7 @@ TEST_F(AutomationInvokeTest, DeleteBlockGetsItsArgumentUnresolved) {
 
 TEST_F(AutomationInvokeTest, ControlErrorsPassThrough) {
   EXPECT_AUTOMATION_ERROR(Invoke(control, "BlockKey", InvokeKind::PropertyGet, {}), kErrSubscript);
-  EXPECT_AUTOMATION_ERROR(Invoke(control, "SpecialClearAllBlock", InvokeKind::PropertyGet, {}),
-                          kErrGetNotAtRunTime);
+  EXPECT_AUTOMATION_ERROR(Invoke(control, "SpecialClearAllBlock", InvokeKind::PropertyGet, {}), kErrGetNotAtRunTime);
 }
 
 TEST_F(AutomationInvokeTest, ClearAllTakesVxHardAsMinusOne) {

@@ -94,26 +94,26 @@ TEST_P(PlainPropertyTest, StoresNotifiesItsNameAndRedrawsOnce) {
   EXPECT_EQ(site.Paints(), 1);
 }
 
-#define PLAIN(Name, value)                                                     \
-  PlainProperty {                                                              \
-    #Name, [](Vorlex& c) { c.put_##Name(value); },                             \
-        [](Vorlex& c) { return static_cast<int64_t>(c.get_##Name()); }, value  \
+#define PLAIN(Name, value)                                                                                        \
+  PlainProperty {                                                                                                 \
+#Name, [](Vorlex & c) { c.put_##Name(value); }, [](Vorlex &                                                   \
+                                                       c) { return static_cast<int64_t>(c.get_##Name()); }, value \
   }
 
-INSTANTIATE_TEST_SUITE_P(
-    AllPlainProperties, PlainPropertyTest,
-    ::testing::Values(PLAIN(BackColor, 0x123456u), PLAIN(ForeColor, 0x00FF00u), PLAIN(BorderWidth, 7),
-                      PLAIN(BorderStyle, 9), PLAIN(HMinValue, -50), PLAIN(HMaxValue, 200), PLAIN(VMinValue, 10),
-                      PLAIN(VMaxValue, 90), PLAIN(BrushStyle, vxDiagonalCross), PLAIN(BrushColor, 0xFFu),
-                      PLAIN(CaptionAlignment, vxBottomLeft), PLAIN(DisabledColor, 0x404040u),
-                      PLAIN(Orientation, vxFromBottom), PLAIN(CaptionOffset, -4),
-                      PLAIN(CaptionAutoAngle, vxUp), PLAIN(CaptionFont3D, vxRaisedShadow),
-                      PLAIN(RivetsStyle, vxInsetRivets), PLAIN(GradientStyle, vxOuterHGradient),
-                      PLAIN(GradientColor, 0x1u), PLAIN(GradientColorEnd, 0x2u),
-                      PLAIN(GradientGranularity, vxMedium), PLAIN(PictureAutoSize, vxBothAutoSize),
-                      PLAIN(PictureTile, vxVerticalTile), PLAIN(PictureOffset, 12),
-                      PLAIN(PictureAlignment, vxTopLeft), PLAIN(IndexBlock, 4)),
-    [](const ::testing::TestParamInfo<PlainProperty>& p) { return std::string(p.param.name); });
+INSTANTIATE_TEST_SUITE_P(AllPlainProperties, PlainPropertyTest,
+                         ::testing::Values(PLAIN(BackColor, 0x123456u), PLAIN(ForeColor, 0x00FF00u),
+                                           PLAIN(BorderWidth, 7), PLAIN(BorderStyle, 9), PLAIN(HMinValue, -50),
+                                           PLAIN(HMaxValue, 200), PLAIN(VMinValue, 10), PLAIN(VMaxValue, 90),
+                                           PLAIN(BrushStyle, vxDiagonalCross), PLAIN(BrushColor, 0xFFu),
+                                           PLAIN(CaptionAlignment, vxBottomLeft), PLAIN(DisabledColor, 0x404040u),
+                                           PLAIN(Orientation, vxFromBottom), PLAIN(CaptionOffset, -4),
+                                           PLAIN(CaptionAutoAngle, vxUp), PLAIN(CaptionFont3D, vxRaisedShadow),
+                                           PLAIN(RivetsStyle, vxInsetRivets), PLAIN(GradientStyle, vxOuterHGradient),
+                                           PLAIN(GradientColor, 0x1u), PLAIN(GradientColorEnd, 0x2u),
+                                           PLAIN(GradientGranularity, vxMedium), PLAIN(PictureAutoSize, vxBothAutoSize),
+                                           PLAIN(PictureTile, vxVerticalTile), PLAIN(PictureOffset, 12),
+                                           PLAIN(PictureAlignment, vxTopLeft), PLAIN(IndexBlock, 4)),
+                         [](const ::testing::TestParamInfo<PlainProperty>& p) { return std::string(p.param.name); });
 
 TEST_F(ControlPropertiesTest, BorderStyle9IsStoredAsPassed) {
   control.put_BorderStyle(9);
@@ -158,8 +158,8 @@ TEST_F(ControlPropertiesTest, PictureIsASharedReference) {
 }
 
 TEST_F(ControlPropertiesTest, CaptionAngleIsFolded) {
-  const std::pair<int16_t, int16_t> cases[] = {{-30, 30}, {400, 40}, {370, 10}, {-90, 90},
-                                               {-450, 90}, {720, 0}, {359, 359}, {-32768, 8}};
+  const std::pair<int16_t, int16_t> cases[] = {{-30, 30},  {400, 40}, {370, 10},  {-90, 90},
+                                               {-450, 90}, {720, 0},  {359, 359}, {-32768, 8}};
   for (const auto& [in, out] : cases) {
     control.put_CaptionAngle(in);
     EXPECT_EQ(control.get_CaptionAngle(), out) << in;

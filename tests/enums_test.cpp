@@ -24,26 +24,25 @@ TEST(Enumerations, SmallEnumerationValues) {
             43210);
   EXPECT_EQ(vxDefault + vxHigh * 10 + vxMedium * 100 + vxLow * 1000 + vxVeryLow * 10000, 43210);
   EXPECT_EQ(vxFromLeft + vxFromRight * 10 + vxFromTop * 100 + vxFromBottom * 1000, 3210);
-  EXPECT_EQ(vxNoneRivets + vxRaisedRivets * 10 + vxInsetRivets * 100 + vxRaisedRivetsExt * 1000 +
-                vxInsetRivetsExt * 10000,
-            43210);
+  EXPECT_EQ(
+      vxNoneRivets + vxRaisedRivets * 10 + vxInsetRivets * 100 + vxRaisedRivetsExt * 1000 + vxInsetRivetsExt * 10000,
+      43210);
   EXPECT_EQ(vxRectangle + vxCircle * 10, 10);
   EXPECT_EQ(vxNoneTile + vxHorizontalTile * 10 + vxVerticalTile * 100 + vxBothTile * 1000, 3210);
 }
 
 TEST(Enumerations, BorderAndBrushValues) {
   const int borders[] = {vxNoneBorder, vxFlat, vxRaised, vxInset, vxEtched, vxEtchedLight, vxBump, vxBumpLight};
-  const int brushes[] = {vxNoneBrush, vxHorizontal, vxVertical, vxForwardDiagonal,
-                         vxBackwardDiagonal, vxCross, vxDiagonalCross};
+  const int brushes[] = {vxNoneBrush,        vxHorizontal, vxVertical,     vxForwardDiagonal,
+                         vxBackwardDiagonal, vxCross,      vxDiagonalCross};
   for (int i = 0; i < 8; ++i) EXPECT_EQ(borders[i], i);
   for (int i = 0; i < 7; ++i) EXPECT_EQ(brushes[i], i);
 }
 
 TEST(Enumerations, GradientStyleValues) {
-  const int styles[] = {vxNoneGradient,        vxLeftHGradient,          vxRightHGradient,
-                        vxTopVGradient,        vxBottomVGradient,        vxInnerHGradient,
-                        vxOuterHGradient,      vxInnerVGradient,         vxOuterVGradient,
-                        vxInnerCircleGradient, vxOuterCircleGradient,    vxInnerRectangleGradient,
+  const int styles[] = {vxNoneGradient,          vxLeftHGradient,       vxRightHGradient,      vxTopVGradient,
+                        vxBottomVGradient,       vxInnerHGradient,      vxOuterHGradient,      vxInnerVGradient,
+                        vxOuterVGradient,        vxInnerCircleGradient, vxOuterCircleGradient, vxInnerRectangleGradient,
                         vxOuterRectangleGradient};
   for (int i = 0; i < 13; ++i) EXPECT_EQ(styles[i], i);
 }

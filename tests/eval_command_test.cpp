@@ -92,9 +92,7 @@ class PlainObject : public Object {};
 
 // Statements on a new control.
 
-TEST_F(Eval, AddBlockPrintsNothingAndBlocksCountsIt) {
-  EXPECT_EQ(Run({"AddBlock", "Blocks"}), "1\n");
-}
+TEST_F(Eval, AddBlockPrintsNothingAndBlocksCountsIt) { EXPECT_EQ(Run({"AddBlock", "Blocks"}), "1\n"); }
 
 TEST_F(Eval, EveryValueIsOneLineInStatementOrder) {
   EXPECT_EQ(Run({"Blocks", "AddBlock", "AddBlock", "Blocks"}), "0\n2\n");
@@ -104,57 +102,45 @@ TEST_F(Eval, HexColorAssignedToABlockReadsBackInDecimal) {
   EXPECT_EQ(Run({"AddBlock", "BlockColor(1) = &HFF", "BlockColor(1)"}), "255\n");
 }
 
-TEST_F(Eval, CaptionAngleAssignedMinus30ReadsBack30) {
-  EXPECT_EQ(Run({"CaptionAngle = -30", "CaptionAngle"}), "30\n");
-}
+TEST_F(Eval, CaptionAngleAssignedMinus30ReadsBack30) { EXPECT_EQ(Run({"CaptionAngle = -30", "CaptionAngle"}), "30\n"); }
 
 TEST_F(Eval, RealAssignedToAnIntegerPropertyRoundsHalfToEven) {
   EXPECT_EQ(Run({"CaptionAngle = 2.5", "CaptionAngle", "CaptionAngle = 3.5", "CaptionAngle"}), "2\n4\n");
 }
 
-TEST_F(Eval, OmittedBlockArgumentWithoutBlocksPrintsError9) {
-  EXPECT_EQ(Run({"BlockKey"}), "error 9\n");
-}
+TEST_F(Eval, OmittedBlockArgumentWithoutBlocksPrintsError9) { EXPECT_EQ(Run({"BlockKey"}), "error 9\n"); }
 
 TEST_F(Eval, OmittedBlockArgumentMeansTheCurrentBlock) {
   EXPECT_EQ(Run({"AddBlock", "AddBlock", "IndexBlock = 2", "BlockColor = 77", "BlockColor(2)", "BlockColor(1)"}),
             "77\n8421504\n");
 }
 
-TEST_F(Eval, SpecialClearAllBlockAtRunTimePrintsError393) {
-  EXPECT_EQ(Run({"SpecialClearAllBlock"}), "error 393\n");
-}
+TEST_F(Eval, SpecialClearAllBlockAtRunTimePrintsError393) { EXPECT_EQ(Run({"SpecialClearAllBlock"}), "error 393\n"); }
 
 TEST_F(Eval, UnknownNamePrintsError438) {
   EXPECT_EQ(Run({"Nonexistent", "Nonexistent(1)", "Nonexistent = 5", "Nonexistent(1) = Nothing"}),
             "error 438\nerror 438\nerror 438\nerror 438\n");
 }
 
-TEST_F(Eval, AssigningAReadOnlyPropertyPrintsError438) {
-  EXPECT_EQ(Run({"hWnd = 5"}), "error 438\n");
-}
+TEST_F(Eval, AssigningAReadOnlyPropertyPrintsError438) { EXPECT_EQ(Run({"hWnd = 5"}), "error 438\n"); }
 
 TEST_F(Eval, BooleanPropertyPrintsTrueOrFalse) {
   EXPECT_EQ(Run({"Redraw", "Redraw = False", "Redraw"}), "True\nFalse\n");
 }
 
-TEST_F(Eval, FontPrintsItsName) {
-  EXPECT_EQ(Run({"Font"}), "MS Sans Serif\n");
-}
+TEST_F(Eval, FontPrintsItsName) { EXPECT_EQ(Run({"Font"}), "MS Sans Serif\n"); }
 
 TEST_F(Eval, StringBlockArgumentThatIsNoKeyPrintsError9) {
   EXPECT_EQ(Run({"AddBlock", "BlockColor(\"2\") "}), "error 9\n");
 }
 
 TEST_F(Eval, StringBlockArgumentFindsTheBlockByKey) {
-  EXPECT_EQ(Run({"AddBlock", "AddBlock", "BlockKey(2) = \"gauge\"", "BlockColor(\"gauge\") = 12",
-                 "BlockColor(2)", "BlockKey(2)"}),
+  EXPECT_EQ(Run({"AddBlock", "AddBlock", "BlockKey(2) = \"gauge\"", "BlockColor(\"gauge\") = 12", "BlockColor(2)",
+                 "BlockKey(2)"}),
             "12\ngauge\n");
 }
 
-TEST_F(Eval, TimerDiskIntervalDefaultIs60000) {
-  EXPECT_EQ(Run({"TimerDiskInterval"}), "60000\n");
-}
+TEST_F(Eval, TimerDiskIntervalDefaultIs60000) { EXPECT_EQ(Run({"TimerDiskInterval"}), "60000\n"); }
 
 TEST_F(Eval, StringsPrintAsTheyAre) {
   EXPECT_EQ(Run({"Caption = \"say \"\"hi\"\", then go\"", "Caption"}), "say \"hi\", then go\n");
@@ -165,9 +151,7 @@ TEST_F(Eval, NumberAssignedToAStringPropertyPrintsInShortestForm) {
             "0.1\n1E+20\n2.5\n");
 }
 
-TEST_F(Eval, NamesAreCaseInsensitive) {
-  EXPECT_EQ(Run({"addblock", "ADDBLOCK", "bLoCkS"}), "2\n");
-}
+TEST_F(Eval, NamesAreCaseInsensitive) { EXPECT_EQ(Run({"addblock", "ADDBLOCK", "bLoCkS"}), "2\n"); }
 
 TEST_F(Eval, AutomationErrorDoesNotStopLaterStatements) {
   EXPECT_EQ(Run({"Nonexistent", "AddBlock", "BlockKey(5)", "Blocks"}), "error 438\nerror 9\n1\n");
@@ -186,9 +170,7 @@ TEST_F(Eval, OmittedRequiredArgumentPrintsError449) {
   EXPECT_EQ(Run({"AddBlock", "DeleteBlock", "DeleteBlock(,)", "Blocks"}), "error 449\nerror 450\n1\n");
 }
 
-TEST_F(Eval, TooManyArgumentsPrintError450) {
-  EXPECT_EQ(Run({"Blocks(1)", "AddBlock(1)"}), "error 450\nerror 450\n");
-}
+TEST_F(Eval, TooManyArgumentsPrintError450) { EXPECT_EQ(Run({"Blocks(1)", "AddBlock(1)"}), "error 450\nerror 450\n"); }
 
 TEST_F(Eval, MethodArgumentIsPassed) {
   EXPECT_EQ(Run({"AddBlock", "AddBlock", "SetBlockColor(&HFF00&)", "BlockColor(1)", "BlockColor(2)"}),
@@ -199,13 +181,9 @@ TEST_F(Eval, ValueOfTheWrongTypePrintsError13) {
   EXPECT_EQ(Run({"AddBlock", "BlockColor(1) = \"red\"", "Font = 5"}), "error 13\nerror 13\n");
 }
 
-TEST_F(Eval, ValueTooLargeForThePropertyPrintsError6) {
-  EXPECT_EQ(Run({"CaptionAngle = 40000"}), "error 6\n");
-}
+TEST_F(Eval, ValueTooLargeForThePropertyPrintsError6) { EXPECT_EQ(Run({"CaptionAngle = 40000"}), "error 6\n"); }
 
-TEST_F(Eval, PicturePrintsItsHandle) {
-  EXPECT_EQ(Run({"Picture"}), "0\n");
-}
+TEST_F(Eval, PicturePrintsItsHandle) { EXPECT_EQ(Run({"Picture"}), "0\n"); }
 
 TEST_F(Eval, NothingAssignedToAnObjectPropertyGoesByReference) {
   EXPECT_EQ(Run({"Picture = Nothing", "Picture"}), "Nothing\n");
@@ -246,9 +224,7 @@ TEST(EvalCallKind, ObjectAssignedWhereOnlyAPutExistsUsesThePut) {
 
 // How values print.
 
-TEST(EvalResultText, EmptyPrintsNoLine) {
-  EXPECT_FALSE(ResultText(Variant()).has_value());
-}
+TEST(EvalResultText, EmptyPrintsNoLine) { EXPECT_FALSE(ResultText(Variant()).has_value()); }
 
 TEST(EvalResultText, NumbersPrintInShortestDecimalForm) {
   EXPECT_EQ(ResultText(Variant(static_cast<int16_t>(-5))), "-5");
@@ -274,13 +250,10 @@ TEST(EvalResultText, FontPrintsItsName) {
 
 TEST(EvalResultText, PicturePrintsItsHandleAsALong) {
   EXPECT_EQ(ResultText(Variant(std::shared_ptr<Object>(std::make_shared<FixedPicture>(1234u)))), "1234");
-  EXPECT_EQ(ResultText(Variant(std::shared_ptr<Object>(std::make_shared<FixedPicture>(0x80000001u)))),
-            "-2147483647");
+  EXPECT_EQ(ResultText(Variant(std::shared_ptr<Object>(std::make_shared<FixedPicture>(0x80000001u)))), "-2147483647");
 }
 
-TEST(EvalResultText, NothingPrintsNothing) {
-  EXPECT_EQ(ResultText(Variant(std::shared_ptr<Object>())), "Nothing");
-}
+TEST(EvalResultText, NothingPrintsNothing) { EXPECT_EQ(ResultText(Variant(std::shared_ptr<Object>())), "Nothing"); }
 
 TEST(EvalResultText, ObjectWithoutADefaultPropertyRaises438) {
   try {

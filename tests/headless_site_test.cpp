@@ -1,8 +1,8 @@
-#include "vorlex/HeadlessSite.h"
-
 #include <gtest/gtest.h>
 
 #include <vector>
+
+#include "vorlex/HeadlessSite.h"
 
 using namespace vorlex;
 
@@ -64,8 +64,8 @@ TEST(ManualTimers, DeliversEveryDueTickInTimeOrder) {
   const uintptr_t slow = timers.SetTimer(0, 250, RecordTick);
   EXPECT_NE(fast, slow);
   timers.Advance(500);
-  const std::vector<std::pair<uintptr_t, uint32_t>> expected = {
-      {fast, 100}, {fast, 200}, {slow, 250}, {fast, 300}, {fast, 400}, {fast, 500}, {slow, 500}};
+  const std::vector<std::pair<uintptr_t, uint32_t>> expected = {{fast, 100}, {fast, 200}, {slow, 250}, {fast, 300},
+                                                                {fast, 400}, {fast, 500}, {slow, 500}};
   EXPECT_EQ(g_ticks, expected);
   EXPECT_EQ(timers.Now(), 500u);
 }

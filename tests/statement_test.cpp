@@ -38,10 +38,10 @@ std::string Problem(const std::string& text) {
 Variant I2(int v) { return Variant(static_cast<int16_t>(v)); }
 Variant I4(int32_t v) { return Variant(v); }
 
-#define EXPECT_PROBLEM(text, words)                                                   \
-  do {                                                                                \
-    const std::string problem = Problem(text);                                        \
-    EXPECT_NE(problem.find(words), std::string::npos)                                 \
+#define EXPECT_PROBLEM(text, words)                                                                 \
+  do {                                                                                              \
+    const std::string problem = Problem(text);                                                      \
+    EXPECT_NE(problem.find(words), std::string::npos)                                               \
         << "statement: " << (text) << "\nproblem: " << (problem.empty() ? "(read fine)" : problem); \
   } while (0)
 
@@ -56,9 +56,7 @@ TEST(Statement, NameAloneHasNoArgumentsAndNoValue) {
   EXPECT_FALSE(s.value.has_value());
 }
 
-TEST(Statement, NameKeepsItsSpelling) {
-  EXPECT_EQ(ParseStatement("bLoCkCoLoR_2").name, "bLoCkCoLoR_2");
-}
+TEST(Statement, NameKeepsItsSpelling) { EXPECT_EQ(ParseStatement("bLoCkCoLoR_2").name, "bLoCkCoLoR_2"); }
 
 TEST(Statement, ArgumentsAreKeptInCallOrder) {
   const Statement s = ParseStatement("BlockColor(1, \"a\", True)");
@@ -202,9 +200,7 @@ TEST(Literal, TrailingAmpersandMakesHexALong) {
   EXPECT_EQ(Literal("&H8000000F&"), I4(static_cast<int32_t>(0x8000000Fu)));
 }
 
-TEST(Literal, TrailingPercentMakesHexAnInteger) {
-  EXPECT_EQ(Literal("&HFFFF%"), I2(-1));
-}
+TEST(Literal, TrailingPercentMakesHexAnInteger) { EXPECT_EQ(Literal("&HFFFF%"), I2(-1)); }
 
 TEST(Literal, OctalFollowsTheHexRules) {
   EXPECT_EQ(Literal("&O17"), I2(15));
@@ -241,9 +237,7 @@ TEST(Literal, EmptyStringIsAStringNotEmpty) {
   EXPECT_EQ(v.ToString(), "");
 }
 
-TEST(Literal, StringKeepsUtf8Bytes) {
-  EXPECT_EQ(Literal("\"\xC3\xA9t\xC3\xA9\""), Variant("\xC3\xA9t\xC3\xA9"));
-}
+TEST(Literal, StringKeepsUtf8Bytes) { EXPECT_EQ(Literal("\"\xC3\xA9t\xC3\xA9\""), Variant("\xC3\xA9t\xC3\xA9")); }
 
 TEST(Literal, TrueAndFalseAreBooleansInAnyCase) {
   EXPECT_EQ(Literal("True"), Variant::Boolean(true));

@@ -52,8 +52,7 @@ class Variant {
   bool operator==(const Variant& other) const = default;
 
  private:
-  using Storage = std::variant<std::monostate, int16_t, int32_t, float, double, std::string,
-                               std::shared_ptr<Object>>;
+  using Storage = std::variant<std::monostate, int16_t, int32_t, float, double, std::string, std::shared_ptr<Object>>;
   Storage value_;
   VarType type_ = VarType::Empty;
 };

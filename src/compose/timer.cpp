@@ -31,8 +31,7 @@ void RemoveLiveTimer(uintptr_t id) { LiveTimers().erase(KeyOf(id)); }
 bool IsLiveTimer(uintptr_t id) { return LiveTimers().count(KeyOf(id)) != 0; }
 }  // namespace modTimer
 
-clsTimer::clsTimer(TimerService& service, TimerHandler onTimer)
-    : service_(service), onTimer_(std::move(onTimer)) {}
+clsTimer::clsTimer(TimerService& service, TimerHandler onTimer) : service_(service), onTimer_(std::move(onTimer)) {}
 
 clsTimer::~clsTimer() {
   if (running_) SetEnabled(VARIANT_FALSE);

@@ -1,9 +1,10 @@
 // Finding and calling members of the automation table.
 
+#include "vorlex/Automation.h"
+
 #include <utility>
 
 #include "control/numeric_text.h"
-#include "vorlex/Automation.h"
 #include "vorlex/AutomationError.h"
 
 namespace vorlex {

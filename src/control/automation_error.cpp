@@ -4,21 +4,36 @@ namespace vorlex {
 
 std::string StandardErrorText(int32_t number) {
   switch (number) {
-    case kErrInvalidCall: return "Invalid procedure call or argument";
-    case kErrOverflow: return "Overflow";
-    case kErrOutOfMemory: return "Out of memory";
-    case kErrSubscript: return "Subscript out of range";
-    case kErrDivisionByZero: return "Division by zero";
-    case kErrTypeMismatch: return "Type mismatch";
-    case kErrObjectNotSet: return "Object variable or With block variable not set";
-    case kErrInvalidPropertyValue: return "Invalid property value";
-    case kErrGetNotAtRunTime: return "Get not supported at run time";
-    case kErrObjectRequired: return "Object required";
-    case kErrNotSupported: return "Object doesn't support this property or method";
-    case kErrArgumentNotOptional: return "Argument not optional";
-    case kErrWrongArguments: return "Wrong number of arguments or invalid property assignment";
-    case kErrInvalidPicture: return "Invalid picture";
-    default: return "Application-defined or object-defined error";
+    case kErrInvalidCall:
+      return "Invalid procedure call or argument";
+    case kErrOverflow:
+      return "Overflow";
+    case kErrOutOfMemory:
+      return "Out of memory";
+    case kErrSubscript:
+      return "Subscript out of range";
+    case kErrDivisionByZero:
+      return "Division by zero";
+    case kErrTypeMismatch:
+      return "Type mismatch";
+    case kErrObjectNotSet:
+      return "Object variable or With block variable not set";
+    case kErrInvalidPropertyValue:
+      return "Invalid property value";
+    case kErrGetNotAtRunTime:
+      return "Get not supported at run time";
+    case kErrObjectRequired:
+      return "Object required";
+    case kErrNotSupported:
+      return "Object doesn't support this property or method";
+    case kErrArgumentNotOptional:
+      return "Argument not optional";
+    case kErrWrongArguments:
+      return "Wrong number of arguments or invalid property assignment";
+    case kErrInvalidPicture:
+      return "Invalid picture";
+    default:
+      return "Application-defined or object-defined error";
   }
 }
 

@@ -14,19 +14,24 @@ constexpr TypeRef Ref(std::string_view enumName = {}) {
   return TypeRef{K, enumName};
 }
 
-ParamInfo BlockArgument() {
-  return ParamInfo{"iBlock", Ref<TypeKind::Variant>(), true, true, DefaultBlock()};
-}
+ParamInfo BlockArgument() { return ParamInfo{"iBlock", Ref<TypeKind::Variant>(), true, true, DefaultBlock()}; }
 
 // A per-block property: get and put (or putref) with the optional block argument.
 template <TypeKind K, class Getter, class Setter>
-void BlockProperty(Table& t, std::string_view name, int32_t dispid, std::string_view enumName, Getter get,
-                   Setter put) {
+void BlockProperty(Table& t, std::string_view name, int32_t dispid, std::string_view enumName, Getter get, Setter put) {
   constexpr bool byReference = K == TypeKind::Picture;
-  t.push_back({name, dispid, InvokeKind::PropertyGet, {BlockArgument()}, Ref<K>(enumName),
+  t.push_back({name,
+               dispid,
+               InvokeKind::PropertyGet,
+               {BlockArgument()},
+               Ref<K>(enumName),
                [get](Vorlex& v, const std::vector<Variant>& a) { return Convert<K>::To((v.*get)(a[0])); }});
-  t.push_back({name, dispid, byReference ? InvokeKind::PropertyPutRef : InvokeKind::PropertyPut,
-               {BlockArgument()}, Ref<K>(enumName), [put](Vorlex& v, const std::vector<Variant>& a) {
+  t.push_back({name,
+               dispid,
+               byReference ? InvokeKind::PropertyPutRef : InvokeKind::PropertyPut,
+               {BlockArgument()},
+               Ref<K>(enumName),
+               [put](Vorlex& v, const std::vector<Variant>& a) {
                  (v.*put)(Convert<K>::From(a[1]), a[0]);
                  return Variant();
                }});
@@ -34,8 +39,10 @@ void BlockProperty(Table& t, std::string_view name, int32_t dispid, std::string_
 
 template <TypeKind K, class Getter>
 void ReadOnlyProperty(Table& t, std::string_view name, int32_t dispid, std::string_view enumName, Getter get) {
-  t.push_back({name, dispid, InvokeKind::PropertyGet, {}, Ref<K>(enumName),
-               [get](Vorlex& v, const std::vector<Variant>&) { return Convert<K>::To((v.*get)()); }});
+  t.push_back(
+      {name, dispid, InvokeKind::PropertyGet, {}, Ref<K>(enumName), [get](Vorlex& v, const std::vector<Variant>&) {
+         return Convert<K>::To((v.*get)());
+       }});
 }
 
 // A control property: get and put, or putref for objects.
@@ -43,15 +50,23 @@ template <TypeKind K, class Getter, class Setter>
 void Property(Table& t, std::string_view name, int32_t dispid, std::string_view enumName, Getter get, Setter put) {
   constexpr bool byReference = K == TypeKind::Picture || K == TypeKind::Font;
   ReadOnlyProperty<K>(t, name, dispid, enumName, get);
-  t.push_back({name, dispid, byReference ? InvokeKind::PropertyPutRef : InvokeKind::PropertyPut, {},
-               Ref<K>(enumName), [put](Vorlex& v, const std::vector<Variant>& a) {
+  t.push_back({name,
+               dispid,
+               byReference ? InvokeKind::PropertyPutRef : InvokeKind::PropertyPut,
+               {},
+               Ref<K>(enumName),
+               [put](Vorlex& v, const std::vector<Variant>& a) {
                  (v.*put)(Convert<K>::From(a[0]));
                  return Variant();
                }});
 }
 
 void Method(Table& t, std::string_view name, int32_t dispid, Variant (Vorlex::*method)()) {
-  t.push_back({name, dispid, InvokeKind::Method, {}, Ref<TypeKind::Variant>(),
+  t.push_back({name,
+               dispid,
+               InvokeKind::Method,
+               {},
+               Ref<TypeKind::Variant>(),
                [method](Vorlex& v, const std::vector<Variant>&) { return (v.*method)(); }});
 }
 
@@ -60,7 +75,11 @@ template <TypeKind K, class M>
 void Method(Table& t, std::string_view name, int32_t dispid, ParamInfo param, M method) {
   param.type.kind = K;
   param.optional = !param.defaultValue.IsMissing();
-  t.push_back({name, dispid, InvokeKind::Method, {param}, Ref<TypeKind::Variant>(),
+  t.push_back({name,
+               dispid,
+               InvokeKind::Method,
+               {param},
+               Ref<TypeKind::Variant>(),
                [method](Vorlex& v, const std::vector<Variant>& a) { return (v.*method)(Convert<K>::From(a[0])); }});
 }
 
@@ -72,39 +91,69 @@ Variant I4(int32_t v) { return Variant(v); }
 
 void AddBlockProperties(Table& t) {
   BlockProperty<TypeKind::String>(t, "BlockKey", 0x68030027, {}, &Vorlex::get_BlockKey, &Vorlex::put_BlockKey);
-  BlockProperty<TypeKind::Integer>(t, "BlockBarLeft", 0x68030026, {}, &Vorlex::get_BlockBarLeft, &Vorlex::put_BlockBarLeft);
-  BlockProperty<TypeKind::Integer>(t, "BlockBarRight", 0x68030025, {}, &Vorlex::get_BlockBarRight, &Vorlex::put_BlockBarRight);
-  BlockProperty<TypeKind::Integer>(t, "BlockBarTop", 0x68030024, {}, &Vorlex::get_BlockBarTop, &Vorlex::put_BlockBarTop);
-  BlockProperty<TypeKind::Integer>(t, "BlockBarBottom", 0x68030023, {}, &Vorlex::get_BlockBarBottom, &Vorlex::put_BlockBarBottom);
-  BlockProperty<TypeKind::Enum>(t, "BlockBorderStyle", 0x68030022, "vxBorderStyleEnum", &Vorlex::get_BlockBorderStyle, &Vorlex::put_BlockBorderStyle);
-  BlockProperty<TypeKind::Integer>(t, "BlockBorderWidth", 0x68030021, {}, &Vorlex::get_BlockBorderWidth, &Vorlex::put_BlockBorderWidth);
-  BlockProperty<TypeKind::Enum>(t, "BlockShapeStyle", 0x68030020, "vxShapeStyleEnum", &Vorlex::get_BlockShapeStyle, &Vorlex::put_BlockShapeStyle);
-  BlockProperty<TypeKind::Enum>(t, "BlockBrushStyle", 0x6803001f, "vxBrushStyleEnum", &Vorlex::get_BlockBrushStyle, &Vorlex::put_BlockBrushStyle);
-  BlockProperty<TypeKind::Color>(t, "BlockBrushColor", 0x6803001e, {}, &Vorlex::get_BlockBrushColor, &Vorlex::put_BlockBrushColor);
-  BlockProperty<TypeKind::Boolean>(t, "BlockVisible", 0x6803001d, {}, &Vorlex::get_BlockVisible, &Vorlex::put_BlockVisible);
-  BlockProperty<TypeKind::String>(t, "BlockHPercentage", 0x6803001c, {}, &Vorlex::get_BlockHPercentage, &Vorlex::put_BlockHPercentage);
-  BlockProperty<TypeKind::String>(t, "BlockVPercentage", 0x6803001b, {}, &Vorlex::get_BlockVPercentage, &Vorlex::put_BlockVPercentage);
+  BlockProperty<TypeKind::Integer>(t, "BlockBarLeft", 0x68030026, {}, &Vorlex::get_BlockBarLeft,
+                                   &Vorlex::put_BlockBarLeft);
+  BlockProperty<TypeKind::Integer>(t, "BlockBarRight", 0x68030025, {}, &Vorlex::get_BlockBarRight,
+                                   &Vorlex::put_BlockBarRight);
+  BlockProperty<TypeKind::Integer>(t, "BlockBarTop", 0x68030024, {}, &Vorlex::get_BlockBarTop,
+                                   &Vorlex::put_BlockBarTop);
+  BlockProperty<TypeKind::Integer>(t, "BlockBarBottom", 0x68030023, {}, &Vorlex::get_BlockBarBottom,
+                                   &Vorlex::put_BlockBarBottom);
+  BlockProperty<TypeKind::Enum>(t, "BlockBorderStyle", 0x68030022, "vxBorderStyleEnum", &Vorlex::get_BlockBorderStyle,
+                                &Vorlex::put_BlockBorderStyle);
+  BlockProperty<TypeKind::Integer>(t, "BlockBorderWidth", 0x68030021, {}, &Vorlex::get_BlockBorderWidth,
+                                   &Vorlex::put_BlockBorderWidth);
+  BlockProperty<TypeKind::Enum>(t, "BlockShapeStyle", 0x68030020, "vxShapeStyleEnum", &Vorlex::get_BlockShapeStyle,
+                                &Vorlex::put_BlockShapeStyle);
+  BlockProperty<TypeKind::Enum>(t, "BlockBrushStyle", 0x6803001f, "vxBrushStyleEnum", &Vorlex::get_BlockBrushStyle,
+                                &Vorlex::put_BlockBrushStyle);
+  BlockProperty<TypeKind::Color>(t, "BlockBrushColor", 0x6803001e, {}, &Vorlex::get_BlockBrushColor,
+                                 &Vorlex::put_BlockBrushColor);
+  BlockProperty<TypeKind::Boolean>(t, "BlockVisible", 0x6803001d, {}, &Vorlex::get_BlockVisible,
+                                   &Vorlex::put_BlockVisible);
+  BlockProperty<TypeKind::String>(t, "BlockHPercentage", 0x6803001c, {}, &Vorlex::get_BlockHPercentage,
+                                  &Vorlex::put_BlockHPercentage);
+  BlockProperty<TypeKind::String>(t, "BlockVPercentage", 0x6803001b, {}, &Vorlex::get_BlockVPercentage,
+                                  &Vorlex::put_BlockVPercentage);
   BlockProperty<TypeKind::Boolean>(t, "BlockOnTop", 0x6803001a, {}, &Vorlex::get_BlockOnTop, &Vorlex::put_BlockOnTop);
   BlockProperty<TypeKind::Color>(t, "BlockColor", 0x68030019, {}, &Vorlex::get_BlockColor, &Vorlex::put_BlockColor);
-  BlockProperty<TypeKind::Enum>(t, "BlockGradientStyle", 0x68030018, "vxGradientStyleEnum", &Vorlex::get_BlockGradientStyle, &Vorlex::put_BlockGradientStyle);
-  BlockProperty<TypeKind::Enum>(t, "BlockGradientGranularity", 0x68030017, "vxGradientGranularityEnum", &Vorlex::get_BlockGradientGranularity, &Vorlex::put_BlockGradientGranularity);
-  BlockProperty<TypeKind::Color>(t, "BlockGradientColor", 0x68030016, {}, &Vorlex::get_BlockGradientColor, &Vorlex::put_BlockGradientColor);
-  BlockProperty<TypeKind::Color>(t, "BlockGradientColorEnd", 0x68030015, {}, &Vorlex::get_BlockGradientColorEnd, &Vorlex::put_BlockGradientColorEnd);
+  BlockProperty<TypeKind::Enum>(t, "BlockGradientStyle", 0x68030018, "vxGradientStyleEnum",
+                                &Vorlex::get_BlockGradientStyle, &Vorlex::put_BlockGradientStyle);
+  BlockProperty<TypeKind::Enum>(t, "BlockGradientGranularity", 0x68030017, "vxGradientGranularityEnum",
+                                &Vorlex::get_BlockGradientGranularity, &Vorlex::put_BlockGradientGranularity);
+  BlockProperty<TypeKind::Color>(t, "BlockGradientColor", 0x68030016, {}, &Vorlex::get_BlockGradientColor,
+                                 &Vorlex::put_BlockGradientColor);
+  BlockProperty<TypeKind::Color>(t, "BlockGradientColorEnd", 0x68030015, {}, &Vorlex::get_BlockGradientColorEnd,
+                                 &Vorlex::put_BlockGradientColorEnd);
   BlockProperty<TypeKind::String>(t, "BlockText", 0x68030014, {}, &Vorlex::get_BlockText, &Vorlex::put_BlockText);
-  BlockProperty<TypeKind::Color>(t, "BlockTextColor", 0x68030013, {}, &Vorlex::get_BlockTextColor, &Vorlex::put_BlockTextColor);
-  BlockProperty<TypeKind::Enum>(t, "BlockTextAlignment", 0x68030012, "vxAlignmentEnum", &Vorlex::get_BlockTextAlignment, &Vorlex::put_BlockTextAlignment);
-  BlockProperty<TypeKind::Font>(t, "BlockTextFont", 0x68030011, {}, &Vorlex::get_BlockTextFont, &Vorlex::put_BlockTextFont);
-  BlockProperty<TypeKind::Enum>(t, "BlockTextFont3D", 0x68030010, "vxFont3DEnum", &Vorlex::get_BlockTextFont3D, &Vorlex::put_BlockTextFont3D);
-  BlockProperty<TypeKind::Integer>(t, "BlockTextOffset", 0x6803000f, {}, &Vorlex::get_BlockTextOffset, &Vorlex::put_BlockTextOffset);
-  BlockProperty<TypeKind::Integer>(t, "BlockTextAngle", 0x6803000e, {}, &Vorlex::get_BlockTextAngle, &Vorlex::put_BlockTextAngle);
-  BlockProperty<TypeKind::Enum>(t, "BlockTextAutoAngle", 0x6803000d, "vxAutoAngleEnum", &Vorlex::get_BlockTextAutoAngle, &Vorlex::put_BlockTextAutoAngle);
-  BlockProperty<TypeKind::Enum>(t, "BlockRivetsStyle", 0x6803000c, "vxRivetsStyleEnum", &Vorlex::get_BlockRivetsStyle, &Vorlex::put_BlockRivetsStyle);
-  BlockProperty<TypeKind::Picture>(t, "BlockPicture", 0x6803000b, {}, &Vorlex::get_BlockPicture, &Vorlex::putref_BlockPicture);
-  BlockProperty<TypeKind::Integer>(t, "BlockPictureOffset", 0x6803000a, {}, &Vorlex::get_BlockPictureOffset, &Vorlex::put_BlockPictureOffset);
-  BlockProperty<TypeKind::Enum>(t, "BlockPictureAlignment", 0x68030009, "vxAlignmentEnum", &Vorlex::get_BlockPictureAlignment, &Vorlex::put_BlockPictureAlignment);
-  BlockProperty<TypeKind::Enum>(t, "BlockPictureTile", 0x68030008, "vxTileEnum", &Vorlex::get_BlockPictureTile, &Vorlex::put_BlockPictureTile);
-  BlockProperty<TypeKind::Boolean>(t, "BlockClickable", 0x68030001, {}, &Vorlex::get_BlockClickable, &Vorlex::put_BlockClickable);
-  BlockProperty<TypeKind::Boolean>(t, "BlockAutoSize", 0x68030000, {}, &Vorlex::get_BlockAutoSize, &Vorlex::put_BlockAutoSize);
+  BlockProperty<TypeKind::Color>(t, "BlockTextColor", 0x68030013, {}, &Vorlex::get_BlockTextColor,
+                                 &Vorlex::put_BlockTextColor);
+  BlockProperty<TypeKind::Enum>(t, "BlockTextAlignment", 0x68030012, "vxAlignmentEnum", &Vorlex::get_BlockTextAlignment,
+                                &Vorlex::put_BlockTextAlignment);
+  BlockProperty<TypeKind::Font>(t, "BlockTextFont", 0x68030011, {}, &Vorlex::get_BlockTextFont,
+                                &Vorlex::put_BlockTextFont);
+  BlockProperty<TypeKind::Enum>(t, "BlockTextFont3D", 0x68030010, "vxFont3DEnum", &Vorlex::get_BlockTextFont3D,
+                                &Vorlex::put_BlockTextFont3D);
+  BlockProperty<TypeKind::Integer>(t, "BlockTextOffset", 0x6803000f, {}, &Vorlex::get_BlockTextOffset,
+                                   &Vorlex::put_BlockTextOffset);
+  BlockProperty<TypeKind::Integer>(t, "BlockTextAngle", 0x6803000e, {}, &Vorlex::get_BlockTextAngle,
+                                   &Vorlex::put_BlockTextAngle);
+  BlockProperty<TypeKind::Enum>(t, "BlockTextAutoAngle", 0x6803000d, "vxAutoAngleEnum", &Vorlex::get_BlockTextAutoAngle,
+                                &Vorlex::put_BlockTextAutoAngle);
+  BlockProperty<TypeKind::Enum>(t, "BlockRivetsStyle", 0x6803000c, "vxRivetsStyleEnum", &Vorlex::get_BlockRivetsStyle,
+                                &Vorlex::put_BlockRivetsStyle);
+  BlockProperty<TypeKind::Picture>(t, "BlockPicture", 0x6803000b, {}, &Vorlex::get_BlockPicture,
+                                   &Vorlex::putref_BlockPicture);
+  BlockProperty<TypeKind::Integer>(t, "BlockPictureOffset", 0x6803000a, {}, &Vorlex::get_BlockPictureOffset,
+                                   &Vorlex::put_BlockPictureOffset);
+  BlockProperty<TypeKind::Enum>(t, "BlockPictureAlignment", 0x68030009, "vxAlignmentEnum",
+                                &Vorlex::get_BlockPictureAlignment, &Vorlex::put_BlockPictureAlignment);
+  BlockProperty<TypeKind::Enum>(t, "BlockPictureTile", 0x68030008, "vxTileEnum", &Vorlex::get_BlockPictureTile,
+                                &Vorlex::put_BlockPictureTile);
+  BlockProperty<TypeKind::Boolean>(t, "BlockClickable", 0x68030001, {}, &Vorlex::get_BlockClickable,
+                                   &Vorlex::put_BlockClickable);
+  BlockProperty<TypeKind::Boolean>(t, "BlockAutoSize", 0x68030000, {}, &Vorlex::get_BlockAutoSize,
+                                   &Vorlex::put_BlockAutoSize);
 }
 
 void AddBlockListMembers(Table& t) {
@@ -182,8 +231,8 @@ void AddControlProperties(Table& t) {
   Property<K::Enum>(t, "CaptionAlignment", 0x6803003b, "vxAlignmentEnum", &V::get_CaptionAlignment,
                     &V::put_CaptionAlignment);
   Property<K::Color>(t, "DisabledColor", 0x6803003a, {}, &V::get_DisabledColor, &V::put_DisabledColor);
-  Property<K::Enum>(t, "SpecialClearAllBlock", 0x68030039, "vxSpecialClearAllBlockEnum",
-                    &V::get_SpecialClearAllBlock, &V::put_SpecialClearAllBlock);
+  Property<K::Enum>(t, "SpecialClearAllBlock", 0x68030039, "vxSpecialClearAllBlockEnum", &V::get_SpecialClearAllBlock,
+                    &V::put_SpecialClearAllBlock);
   Property<K::Enum>(t, "Orientation", 0x68030038, "vxOrientationEnum", &V::get_Orientation, &V::put_Orientation);
   Property<K::Integer>(t, "CaptionOffset", 0x68030037, {}, &V::get_CaptionOffset, &V::put_CaptionOffset);
   Property<K::Integer>(t, "CaptionAngle", 0x68030036, {}, &V::get_CaptionAngle, &V::put_CaptionAngle);

@@ -44,8 +44,8 @@ Variant Vorlex::SetBlockBarTop(int16_t iBlockBarTop) {
                          kNotifies);
 }
 Variant Vorlex::SetBlockBarBottom(int16_t iBlockBarBottom) {
-  return d->ForEachBlock(
-      [&](BlockDefinition& b) { b.BarBottom = IntegerDivide(iBlockBarBottom, d->twipsPerPixelX); }, kNotifies);
+  return d->ForEachBlock([&](BlockDefinition& b) { b.BarBottom = IntegerDivide(iBlockBarBottom, d->twipsPerPixelX); },
+                         kNotifies);
 }
 Variant Vorlex::SetBlockVisible(VARIANT_BOOL iVisible) {
   return d->ForEachBlock([&](BlockDefinition& b) { b.Visible = iVisible; }, kNotifies);
@@ -72,8 +72,8 @@ Variant Vorlex::SetBlockGradientStyle(int32_t iGradientStyle) {
   return d->ForEachBlock([&](BlockDefinition& b) { b.GradientStyle = NarrowToInteger(iGradientStyle); }, kSilent);
 }
 Variant Vorlex::SetBlockGradientGranularity(int32_t iGradientGranularity) {
-  return d->ForEachBlock(
-      [&](BlockDefinition& b) { b.GradientGranularity = NarrowToInteger(iGradientGranularity); }, kSilent);
+  return d->ForEachBlock([&](BlockDefinition& b) { b.GradientGranularity = NarrowToInteger(iGradientGranularity); },
+                         kSilent);
 }
 Variant Vorlex::SetBlockGradientColor(OLE_COLOR lGradientColor) {
   return d->ForEachBlock([&](BlockDefinition& b) { b.GradientColor = lGradientColor; }, kSilent);

@@ -116,8 +116,7 @@ void Vorlex::put_TimerTimeInterval(int32_t value) {
 }
 VARIANT_BOOL Vorlex::get_TimerTimeEnabled() const { return d->timerTimeEnabled; }
 void Vorlex::put_TimerTimeEnabled(VARIANT_BOOL value) {
-  d->SetTimerProperty(d->timerTimeEnabled, value, "TimerTimeEnabled", *d->timerTimeInformation,
-                      &clsTimer::SetEnabled);
+  d->SetTimerProperty(d->timerTimeEnabled, value, "TimerTimeEnabled", *d->timerTimeInformation, &clsTimer::SetEnabled);
 }
 int32_t Vorlex::get_TimerDiskInterval() const { return d->timerDiskInterval; }
 void Vorlex::put_TimerDiskInterval(int32_t value) {
@@ -126,8 +125,7 @@ void Vorlex::put_TimerDiskInterval(int32_t value) {
 }
 VARIANT_BOOL Vorlex::get_TimerDiskEnabled() const { return d->timerDiskEnabled; }
 void Vorlex::put_TimerDiskEnabled(VARIANT_BOOL value) {
-  d->SetTimerProperty(d->timerDiskEnabled, value, "TimerDiskEnabled", *d->timerDiskInformation,
-                      &clsTimer::SetEnabled);
+  d->SetTimerProperty(d->timerDiskEnabled, value, "TimerDiskEnabled", *d->timerDiskInformation, &clsTimer::SetEnabled);
 }
 
 int32_t Vorlex::get_RivetsStyle() const { return d->rivetsStyle; }

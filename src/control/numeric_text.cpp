@@ -19,8 +19,10 @@ std::optional<double> ParseRadixLiteral(std::string_view body, int radix) {
   uint64_t value = 0;
   for (char c : body) {
     int digit = -1;
-    if (IsDigit(c)) digit = c - '0';
-    else if (radix == 16 && std::isxdigit(static_cast<unsigned char>(c))) digit = std::toupper(c) - 'A' + 10;
+    if (IsDigit(c))
+      digit = c - '0';
+    else if (radix == 16 && std::isxdigit(static_cast<unsigned char>(c)))
+      digit = std::toupper(c) - 'A' + 10;
     if (digit < 0 || digit >= radix) return std::nullopt;
     value = value * static_cast<uint64_t>(radix) + static_cast<uint64_t>(digit);
   }

@@ -45,19 +45,25 @@ bool Variant::IsNumeric() const {
 
 double Variant::ToDouble() const {
   switch (type_) {
-    case VarType::Empty: return 0.0;
+    case VarType::Empty:
+      return 0.0;
     case VarType::Integer:
-    case VarType::Boolean: return std::get<int16_t>(value_);
-    case VarType::Long: return std::get<int32_t>(value_);
-    case VarType::Single: return std::get<float>(value_);
-    case VarType::Double: return std::get<double>(value_);
+    case VarType::Boolean:
+      return std::get<int16_t>(value_);
+    case VarType::Long:
+      return std::get<int32_t>(value_);
+    case VarType::Single:
+      return std::get<float>(value_);
+    case VarType::Double:
+      return std::get<double>(value_);
     case VarType::String: {
       const auto parsed = ParseNumericText(std::get<std::string>(value_));
       if (!parsed) RaiseError(kErrTypeMismatch);
       if (std::isinf(*parsed)) RaiseError(kErrOverflow);
       return *parsed;
     }
-    default: RaiseError(kErrTypeMismatch);
+    default:
+      RaiseError(kErrTypeMismatch);
   }
 }
 
@@ -88,14 +94,22 @@ VARIANT_BOOL Variant::ToBoolean() const {
 
 std::string Variant::ToString() const {
   switch (type_) {
-    case VarType::Empty: return {};
-    case VarType::Integer: return std::to_string(std::get<int16_t>(value_));
-    case VarType::Long: return std::to_string(std::get<int32_t>(value_));
-    case VarType::Single: return FormatNumber(std::get<float>(value_));
-    case VarType::Double: return FormatNumber(std::get<double>(value_));
-    case VarType::Boolean: return std::get<int16_t>(value_) != 0 ? "True" : "False";
-    case VarType::String: return std::get<std::string>(value_);
-    default: RaiseError(kErrTypeMismatch);
+    case VarType::Empty:
+      return {};
+    case VarType::Integer:
+      return std::to_string(std::get<int16_t>(value_));
+    case VarType::Long:
+      return std::to_string(std::get<int32_t>(value_));
+    case VarType::Single:
+      return FormatNumber(std::get<float>(value_));
+    case VarType::Double:
+      return FormatNumber(std::get<double>(value_));
+    case VarType::Boolean:
+      return std::get<int16_t>(value_) != 0 ? "True" : "False";
+    case VarType::String:
+      return std::get<std::string>(value_);
+    default:
+      RaiseError(kErrTypeMismatch);
   }
 }
 

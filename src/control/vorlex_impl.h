@@ -13,9 +13,7 @@
 namespace vorlex {
 
 // An explicitly omitted block argument means what its default means.
-inline Variant EffectiveBlockArgument(const Variant& iBlock) {
-  return iBlock.IsMissing() ? DefaultBlock() : iBlock;
-}
+inline Variant EffectiveBlockArgument(const Variant& iBlock) { return iBlock.IsMissing() ? DefaultBlock() : iBlock; }
 
 struct Vorlex::Impl {
   explicit Impl(ControlSite& s);
@@ -84,6 +82,19 @@ struct Vorlex::Impl {
   const BlockDefinition& Element(int32_t e) const;
   BlockDefinition& Block(const Variant& iBlock) { return Element(ResolveBlockIndex(iBlock)); }
   const BlockDefinition& Block(const Variant& iBlock) const { return Element(ResolveBlockIndex(iBlock)); }
+
+  // A per-block setter: resolve the block, store the value, redraw.
+  template <class T, class U>
+  void Store(const Variant& iBlock, T BlockDefinition::*field, U&& value) {
+    Block(iBlock).*field = std::forward<U>(value);
+    RedrawBar();
+  }
+  // The same for an enumeration, narrowed to 16 bits once the block is resolved.
+  void StoreEnumeration(const Variant& iBlock, int16_t BlockDefinition::*field, int32_t value) {
+    BlockDefinition& block = Block(iBlock);
+    block.*field = NarrowToInteger(value);
+    RedrawBar();
+  }
 
   void AddBlock();
   void DeleteBlock(const Variant& iBlock);

@@ -6,8 +6,8 @@
 namespace vorlex {
 
 namespace {
-constexpr uint32_t kTimerMinimum = 0x0A;         // shorter intervals are raised to this
-constexpr uint32_t kTimerMaximum = 0x7FFFFFFF;   // longer ones are lowered to this
+constexpr uint32_t kTimerMinimum = 0x0A;        // shorter intervals are raised to this
+constexpr uint32_t kTimerMaximum = 0x7FFFFFFF;  // longer ones are lowered to this
 constexpr uint32_t kWmTimer = 0x0113;
 
 uint32_t ClampInterval(uint32_t elapse) { return std::clamp(elapse, kTimerMinimum, kTimerMaximum); }

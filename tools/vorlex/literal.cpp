@@ -24,8 +24,12 @@ std::string Quoted(std::string_view literal) { return "\"" + std::string(literal
 
 [[noreturn]] void Fail(const std::string& problem) { throw SyntaxError(problem); }
 
-bool FitsInteger(int64_t v) { return v >= std::numeric_limits<int16_t>::min() && v <= std::numeric_limits<int16_t>::max(); }
-bool FitsLong(int64_t v) { return v >= std::numeric_limits<int32_t>::min() && v <= std::numeric_limits<int32_t>::max(); }
+bool FitsInteger(int64_t v) {
+  return v >= std::numeric_limits<int16_t>::min() && v <= std::numeric_limits<int16_t>::max();
+}
+bool FitsLong(int64_t v) {
+  return v >= std::numeric_limits<int32_t>::min() && v <= std::numeric_limits<int32_t>::max();
+}
 
 // Basic's unary minus on a typed number: the type widens when the negated value
 // no longer fits (-(-32768) is a Long).
@@ -39,8 +43,10 @@ Variant Negate(const Variant& v) {
       const int64_t n = -static_cast<int64_t>(v.ToLong());
       return FitsLong(n) ? Variant(static_cast<int32_t>(n)) : Variant(static_cast<double>(n));
     }
-    case VarType::Single: return Variant(-v.ToSingle());
-    default: return Variant(-v.ToDouble());
+    case VarType::Single:
+      return Variant(-v.ToSingle());
+    default:
+      return Variant(-v.ToDouble());
   }
 }
 
@@ -63,8 +69,10 @@ Variant RadixValue(std::string_view literal, bool negative) {
   uint64_t value = 0;
   for (char c : digits) {
     unsigned digit = radix;
-    if (IsDigit(c)) digit = static_cast<unsigned>(c - '0');
-    else if (Upper(c) >= 'A' && Upper(c) <= 'F') digit = static_cast<unsigned>(Upper(c) - 'A' + 10);
+    if (IsDigit(c))
+      digit = static_cast<unsigned>(c - '0');
+    else if (Upper(c) >= 'A' && Upper(c) <= 'F')
+      digit = static_cast<unsigned>(Upper(c) - 'A' + 10);
     if (digit >= radix) Fail(std::string("bad ") + kind + " number " + Quoted(literal));
     value = value * radix + digit;
     if (value > 0xFFFFFFFFull) Fail(Quoted(literal) + " does not fit in 32 bits");
@@ -113,7 +121,8 @@ Variant DecimalValue(std::string_view literal, bool negative) {
     body.remove_suffix(1);
   }
   const bool integer = CheckDecimalForm(body, literal);
-  if (!integer && (suffix == '%' || suffix == '&')) Fail("bad number " + Quoted(literal) + ": a whole number was expected");
+  if (!integer && (suffix == '%' || suffix == '&'))
+    Fail("bad number " + Quoted(literal) + ": a whole number was expected");
 
   if (integer && suffix != '!' && suffix != '#') {
     uint64_t magnitude = 0;

@@ -11,12 +11,12 @@
 namespace vorlex::cli {
 
 struct Options {
-  bool help = false;       // --help or -h: print the usage and stop
-  std::string command;     // "eval"
+  bool help = false;    // --help or -h: print the usage and stop
+  std::string command;  // "eval"
   // The source: only --new (a freshly placed control with its defaults) so far.
-  int widthPixels = HeadlessSite::kDefaultWidth;    // --size WxH
+  int widthPixels = HeadlessSite::kDefaultWidth;  // --size WxH
   int heightPixels = HeadlessSite::kDefaultHeight;
-  bool design = false;     // --design: the control runs in design mode
+  bool design = false;                  // --design: the control runs in design mode
   std::vector<std::string> statements;  // each -e, in order
 };
 

@@ -29,9 +29,12 @@ std::string ObjectText(const std::shared_ptr<Object>& object) {
 std::optional<std::string> ResultText(const Variant& result) {
   switch (result.Type()) {
     case VarType::Empty:
-    case VarType::Missing: return std::nullopt;
-    case VarType::Object: return ObjectText(result.ToObject());
-    default: return result.ToString();
+    case VarType::Missing:
+      return std::nullopt;
+    case VarType::Object:
+      return ObjectText(result.ToObject());
+    default:
+      return result.ToString();
   }
 }
 

@@ -82,9 +82,12 @@ class Parser {
     }
     for (;;) {
       SkipSpaces();
-      if (Peek() == ',' || Peek() == ')') args.push_back(Variant::Missing());
-      else if (AtEnd()) Fail("missing \")\"");
-      else args.push_back(Value());
+      if (Peek() == ',' || Peek() == ')')
+        args.push_back(Variant::Missing());
+      else if (AtEnd())
+        Fail("missing \")\"");
+      else
+        args.push_back(Value());
       SkipSpaces();
       if (AtEnd()) Fail("missing \")\"");
       const char c = text_[pos_++];
