@@ -1,0 +1,94 @@
+// The drawing surface on an 800 x 64 bar: fills, gradients and borders, beside
+// a plain std::fill of the same number of pixels as the memory-bandwidth yardstick.
+
+#include <benchmark/benchmark.h>
+
+#include <algorithm>
+#include <cstdint>
+#include <vector>
+
+#include "platform/gdi.h"
+#include "surface/offscreen_dc.h"
+
+namespace {
+
+using vorlex::OffScreenDC;
+namespace gdi = vorlex::gdi;
+
+constexpr int32_t kWidth = 800;
+constexpr int32_t kHeight = 64;
+
+// A surface initialised on a memory window of the screen's format.
+class Bar {
+ public:
+  Bar() {
+    screen_ = gdi::GetDC(nullptr);
+    window_ = gdi::CreateCompatibleDC(screen_);
+    bitmap_ = gdi::CreateCompatibleBitmap(screen_, kWidth, kHeight);
+    previous_ = gdi::SelectObject(window_, bitmap_);
+    gdi::HDC control = window_;
+    int32_t w = kWidth;
+    int32_t h = kHeight;
+    surface.Initialize(control, w, h);
+    surface.Right = kWidth;
+    surface.Bottom = kHeight;
+    surface.BackgroundColor = 0x808080;
+    surface.BrushColor = 0x000000;
+    surface.GradientColor = 0xFF0000;
+    surface.GradientColorEnd = 0x00FFFF;
+  }
+  ~Bar() {
+    gdi::SelectObject(window_, previous_);
+    gdi::DeleteObject(bitmap_);
+    gdi::DeleteDC(window_);
+    gdi::ReleaseDC(nullptr, screen_);
+  }
+  OffScreenDC surface;
+
+ private:
+  gdi::HDC screen_;
+  gdi::HDC window_;
+  gdi::HBITMAP bitmap_;
+  gdi::HGDIOBJ previous_;
+};
+
+void BM_StdFillYardstick(benchmark::State& state) {
+  std::vector<uint32_t> pixels(static_cast<size_t>(kWidth) * kHeight);
+  uint32_t value = 0;
+  for (auto _ : state) {
+    std::fill(pixels.begin(), pixels.end(), ++value);
+    benchmark::DoNotOptimize(pixels.data());
+    benchmark::ClobberMemory();
+  }
+}
+BENCHMARK(BM_StdFillYardstick);
+
+void BM_FillRectangleSolid(benchmark::State& state) {
+  Bar bar;
+  for (auto _ : state) bar.surface.FillRectangle();
+}
+BENCHMARK(BM_FillRectangleSolid);
+
+void BM_FillRectangleHatched(benchmark::State& state) {
+  Bar bar;
+  bar.surface.BrushStyle = 6;  // diagonal cross
+  for (auto _ : state) bar.surface.FillRectangle();
+}
+BENCHMARK(BM_FillRectangleHatched);
+
+void BM_Gradient(benchmark::State& state) {
+  Bar bar;
+  bar.surface.GradientStyle = static_cast<int32_t>(state.range(0));
+  for (auto _ : state) bar.surface.FillRectangle();
+}
+BENCHMARK(BM_Gradient)->DenseRange(1, 12)->Unit(benchmark::kMicrosecond);
+
+void BM_DrawBorder(benchmark::State& state) {
+  Bar bar;
+  bar.surface.BorderStyle = static_cast<int32_t>(state.range(0));
+  bar.surface.BorderWidth = 3;
+  for (auto _ : state) bar.surface.DrawBorder();
+}
+BENCHMARK(BM_DrawBorder)->Arg(2)->Arg(4);
+
+}  // namespace

@@ -1,0 +1,34 @@
+#!/usr/bin/env bash
+# Runs the benchmarks natively (softgdi) and under Wine (the platform's GDI) in
+# one go and prints a table of both with their ratio. Builds what it needs;
+# scripts/test.sh sets the machine up.
+#
+#   scripts/bench.sh [BENCHMARK_FILTER]     e.g. scripts/bench.sh 'Gradient|Fill'
+set -euo pipefail
+repo="$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)"
+cd "$repo"
+filter="${1:-.}"
+min_time="${VORLEX_BENCH_MIN_TIME:-0.2}"
+
+cmake --preset native >/dev/null
+cmake --build build/native --target surface_bench control_bench >/dev/null
+cmake --preset win64 >/dev/null
+cmake --build build/win64 --target surface_bench >/dev/null
+
+out="$repo/build/bench"
+mkdir -p "$out"
+build/native/bench/surface_bench --benchmark_filter="$filter" --benchmark_min_time="$min_time" \
+  --benchmark_format=csv >"$out/native.csv" 2>/dev/null
+scripts/wine-run.sh build/win64/bench/surface_bench.exe --benchmark_filter="$filter" \
+  --benchmark_min_time="$min_time" --benchmark_format=csv >"$out/wine.csv" 2>/dev/null
+
+# name,iterations,real_time,cpu_time,time_unit,...: CPU time in nanoseconds by name.
+to_ns() {
+  tr -d '\r' <"$1" | awk -F, 'NR > 1 && $1 ~ /^"?BM_/ {
+    gsub(/"/, "", $1); f = ($5 == "us") ? 1e3 : (($5 == "ms") ? 1e6 : (($5 == "s") ? 1e9 : 1));
+    printf "%s %.1f\n", $1, $4 * f }'
+}
+printf '%-28s %14s %14s %8s\n' benchmark "softgdi ns" "Wine GDI ns" ratio
+join <(to_ns "$out/native.csv" | sort) <(to_ns "$out/wine.csv" | sort) |
+  awk '{ printf "%-28s %14.1f %14.1f %8.2f\n", $1, $2, $3, ($2 > 0 ? $3 / $2 : 0) }'
+echo "(ratio = Wine / softgdi; above 1 means softgdi is faster)"
