@@ -7,8 +7,10 @@ using namespace vorlex::testing;
 
 namespace {
 constexpr uint32_t kMarker = 0x00FF00;  // COLORREF green, the untouched inside
-const std::map<char, uint32_t> kColours = {{'B', Rgb(0, 0, 0)},       {'W', Rgb(255, 255, 255)},
-                                           {'D', Rgb(128, 128, 128)}, {'L', Rgb(192, 192, 192)},
+const std::map<char, uint32_t> kColours = {{'B', Rgb(0, 0, 0)},
+                                           {'W', Rgb(255, 255, 255)},
+                                           {'D', Rgb(128, 128, 128)},
+                                           {'L', Rgb(192, 192, 192)},
                                            {'-', AsPixel(kMarker)}};
 
 class BorderTest : public SurfaceTest {
@@ -39,18 +41,18 @@ TEST_F(BorderTest, RaisedWidthOneRunsOnTheOutermostPixels) {
 }
 
 TEST_F(BorderTest, InsetSwapsTheShades) {
-  EXPECT_TRUE(MatchesMap(Draw(vxInset, 1), 0, 0,
-                         {"DDDDDDDDDD", "D--------W", "D--------W", "D--------W", "D--------W", "D--------W",
-                          "D--------W", "WWWWWWWWWW"},
-                         kColours));
+  EXPECT_TRUE(MatchesMap(
+      Draw(vxInset, 1), 0, 0,
+      {"DDDDDDDDDD", "D--------W", "D--------W", "D--------W", "D--------W", "D--------W", "D--------W", "WWWWWWWWWW"},
+      kColours));
 }
 
 TEST_F(BorderTest, FlatWidthZeroDrawsTheSameFrameAsWidthOne) {
   const gdi::Pixels zero = Draw(vxFlat, 0);
-  EXPECT_TRUE(MatchesMap(zero, 0, 0,
-                         {"BBBBBBBBBB", "B--------B", "B--------B", "B--------B", "B--------B", "B--------B",
-                          "B--------B", "BBBBBBBBBB"},
-                         kColours));
+  EXPECT_TRUE(MatchesMap(
+      zero, 0, 0,
+      {"BBBBBBBBBB", "B--------B", "B--------B", "B--------B", "B--------B", "B--------B", "B--------B", "BBBBBBBBBB"},
+      kColours));
   EXPECT_EQ(zero.argb, Draw(vxFlat, 1).argb);
 }
 
@@ -122,5 +124,51 @@ TEST_F(BorderTest, StylesOutsideOneToSevenDrawNothing) {
   for (int32_t style : {0, 8, -1, 99}) {
     const gdi::Pixels p = Draw(style, 1);
     for (uint32_t v : p.argb) ASSERT_EQ(v, AsPixel(kMarker)) << "style " << style;
+  }
+}
+
+namespace {
+struct Shades {
+  int32_t style;
+  uint32_t first, second;
+};
+const Shades kShades[] = {{vxFlat, Rgb(0, 0, 0), Rgb(0, 0, 0)},
+                          {vxRaised, Rgb(255, 255, 255), Rgb(128, 128, 128)},
+                          {vxInset, Rgb(128, 128, 128), Rgb(255, 255, 255)},
+                          {vxEtched, Rgb(0, 0, 0), Rgb(255, 255, 255)},
+                          {vxEtchedLight, Rgb(128, 128, 128), Rgb(255, 255, 255)},
+                          {vxBump, Rgb(192, 192, 192), Rgb(0, 0, 0)},
+                          {vxBumpLight, Rgb(192, 192, 192), Rgb(128, 128, 128)}};
+}  // namespace
+
+TEST_F(BorderTest, EveryStyleAtWidths0125) {
+  for (const Shades& s : kShades) {
+    for (int16_t w : {int16_t{0}, int16_t{1}, int16_t{2}, int16_t{5}}) {
+      const gdi::Pixels p = Draw(s.style, w, 20, 16);
+      // The frame line, pens centred on it.
+      const int l = w / 2;
+      const int t = w / 2;
+      const int r = 20 - (w - 1) / 2 - 1;
+      const int b = 16 - (w - 1) / 2 - 1;
+      const std::string what = "style " + std::to_string(s.style) + " width " + std::to_string(w);
+      if (s.style <= vxInset) {
+        const int ring = w < 1 ? 1 : w;
+        EXPECT_EQ(p.At(0, 8), s.first) << what;
+        EXPECT_EQ(p.At(10, ring - 1), s.first) << what;
+        EXPECT_EQ(p.At(19, 8), s.second) << what;
+        EXPECT_EQ(p.At(10, 16 - ring), s.second) << what;
+        EXPECT_EQ(p.At(ring, 8), AsPixel(kMarker)) << what;
+        EXPECT_EQ(p.At(10, ring), AsPixel(kMarker)) << what;
+      } else {
+        EXPECT_EQ(p.At(l, t), s.first) << what;           // outer top-left: first pen
+        EXPECT_EQ(p.At(r - 1, b - 1), s.first) << what;   // inner bottom-right corner
+        EXPECT_EQ(p.At(l + 1, t + 1), s.second) << what;  // inner top-left line
+        EXPECT_EQ(p.At(r, b), s.second) << what;          // outer bottom-right corner
+        EXPECT_EQ(p.At(l + 2, t + 2), AsPixel(kMarker)) << what;
+        if (l > 0) {
+          EXPECT_EQ(p.At(l - 1, t - 1), AsPixel(kMarker)) << what;
+        }
+      }
+    }
   }
 }

@@ -1,7 +1,8 @@
+#include "surface/gradient.h"
+
 #include <cmath>
 #include <vector>
 
-#include "surface/gradient.h"
 #include "surface_fixture.h"
 #include "vorlex/Enums.h"
 

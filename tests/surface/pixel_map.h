@@ -12,8 +12,7 @@
 namespace vorlex::testing {
 
 // Compares the region starting at (x0, y0) with the map; '.' means "not checked".
-inline ::testing::AssertionResult MatchesMap(const gdi::Pixels& p, int x0, int y0,
-                                             const std::vector<std::string>& rows,
+inline ::testing::AssertionResult MatchesMap(const gdi::Pixels& p, int x0, int y0, const std::vector<std::string>& rows,
                                              const std::map<char, uint32_t>& colours) {
   std::string actual;
   bool ok = true;
