@@ -113,6 +113,9 @@ struct Pixels {
   }
 };
 bool ReadPixels(HDC dc, Pixels& out);
+// Writes pixels into the bitmap selected into a context, from its top-left
+// corner; what does not fit is left out. False when the context holds no bitmap.
+bool WritePixels(HDC dc, const Pixels& pixels);
 // GDI objects and contexts currently alive in this process (leak checks).
 size_t LiveObjectCount();
 

@@ -40,6 +40,7 @@ class DibCopy {
   bool ok() const { return previous_ != nullptr && bits_ != nullptr; }
   ::HDC dc() const { return dc_; }
   const uint32_t* bits() const { return static_cast<const uint32_t*>(bits_); }
+  uint32_t* bits() { return static_cast<uint32_t*>(bits_); }
 
  private:
   ::HDC dc_ = nullptr;
@@ -103,6 +104,20 @@ bool ReadPixels(HDC dc, Pixels& out) {
   std::memcpy(out.argb.data(), copy.bits(), count * sizeof(uint32_t));
   for (uint32_t& pixel : out.argb) pixel &= 0x00FFFFFFu;
   return true;
+}
+
+// The pixels go into a DIB section first, then BitBlt converts them into the
+// selected bitmap's format.
+bool WritePixels(HDC dc, const Pixels& pixels) {
+  const auto target = reinterpret_cast<::HDC>(dc);
+  if (target == nullptr || ::GetObjectType(target) != OBJ_MEMDC) return false;
+  if (pixels.width <= 0 || pixels.height <= 0) return ::GetCurrentObject(target, OBJ_BITMAP) != nullptr;
+  DibCopy copy(target, pixels.width, pixels.height);
+  if (!copy.ok()) return false;
+  ::GdiFlush();
+  std::memcpy(copy.bits(), pixels.argb.data(), pixels.argb.size() * sizeof(uint32_t));
+  DevicePixels device(target);
+  return device.ok() && ::BitBlt(target, 0, 0, pixels.width, pixels.height, copy.dc(), 0, 0, SRCCOPY) != 0;
 }
 
 }  // namespace vorlex::gdi
