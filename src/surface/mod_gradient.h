@@ -4,20 +4,10 @@
 #include <cstdint>
 
 #include "platform/gdi.h"
+#include "surface/drawing_target.h"
 #include "vorlex/Color.h"
 
 namespace vorlex {
-
-// What a preview target offers: its context and its scale, in pixels.
-class DrawingTarget {
- public:
-  virtual ~DrawingTarget() = default;
-  virtual gdi::HDC hDC() const = 0;
-  virtual float ScaleLeft() const = 0;
-  virtual float ScaleTop() const = 0;
-  virtual float ScaleWidth() const = 0;
-  virtual float ScaleHeight() const = 0;
-};
 
 namespace modGradient {
 

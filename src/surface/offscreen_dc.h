@@ -8,6 +8,7 @@
 
 #include "platform/gdi.h"
 #include "surface/display_depth.h"
+#include "surface/drawing_target.h"
 #include "vorlex/Color.h"
 #include "vorlex/Font.h"
 
@@ -64,6 +65,8 @@ class OffScreenDC {
   void FillEllipse();
   void DrawBorder();
   void DrawFocusRect();
+  // Copies a picture held at pixel scale by a drawable into the rectangle.
+  void DrawBitmap(const DrawingTarget& oPicture);
 
   gdi::HDC MemoryDC() const { return memoryDC_; }
   const DisplayDepth& Depth() const { return depth_; }
