@@ -52,6 +52,29 @@ struct RECT {
   int32_t bottom;
 };
 
+struct SIZE {
+  int32_t cx;
+  int32_t cy;
+};
+
+// A logical font as CreateFontIndirectA takes it.
+struct LOGFONTA {
+  int32_t lfHeight;
+  int32_t lfWidth;
+  int32_t lfEscapement;  // tenths of a degree, counter-clockwise
+  int32_t lfOrientation;
+  int32_t lfWeight;
+  uint8_t lfItalic;
+  uint8_t lfUnderline;
+  uint8_t lfStrikeOut;
+  uint8_t lfCharSet;
+  uint8_t lfOutPrecision;
+  uint8_t lfClipPrecision;
+  uint8_t lfQuality;
+  uint8_t lfPitchAndFamily;
+  char lfFaceName[32];
+};
+
 constexpr COLORREF RGB(uint8_t r, uint8_t g, uint8_t b) {
   return static_cast<COLORREF>(r) | (static_cast<COLORREF>(g) << 8) | (static_cast<COLORREF>(b) << 16);
 }
@@ -71,8 +94,16 @@ inline constexpr int TRANSPARENT = 1;
 inline constexpr int OPAQUE = 2;
 // Raster operation of BitBlt.
 inline constexpr DWORD SRCCOPY = 0x00CC0020;
+// ExtTextOut options.
+inline constexpr unsigned ETO_CLIPPED = 4;
+// Font constants.
+inline constexpr int32_t FW_NORMAL = 400;
+inline constexpr int32_t FW_BOLD = 700;
+inline constexpr uint8_t PROOF_QUALITY = 2;
+inline constexpr uint8_t VARIABLE_PITCH = 2;
 // GetDeviceCaps indexes.
 inline constexpr int BITSPIXEL = 12;
+inline constexpr int LOGPIXELSY = 90;
 inline constexpr int PLANES = 14;
 
 // Device contexts and bitmaps.
@@ -92,6 +123,14 @@ HBRUSH CreateHatchBrush(int style, COLORREF color);
 HPEN CreatePen(int style, int width, COLORREF color);
 int SetBkMode(HDC dc, int mode);
 COLORREF SetBkColor(HDC dc, COLORREF color);
+
+// Text. Strings are UTF-8 (count in bytes); the Windows backend converts them
+// at the platform call.
+HFONT CreateFontIndirectA(const LOGFONTA* font);
+BOOL GetTextExtentPoint32A(HDC dc, const char* text, int count, SIZE* size);
+BOOL ExtTextOutA(HDC dc, int x, int y, unsigned options, const RECT* rect, const char* text, unsigned count,
+                 const int* dx);
+COLORREF SetTextColor(HDC dc, COLORREF color);
 
 // Drawing.
 BOOL MoveToEx(HDC dc, int x, int y, POINT* previous);

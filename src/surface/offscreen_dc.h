@@ -48,6 +48,8 @@ class OffScreenDC {
   int16_t PictureOffset = 0;
   int32_t PictureAlignment = 0;
   int32_t PictureTile = 0;
+  // The screen's vertical twips per pixel, for the height of rotated fonts.
+  float ScreenTwipsPerPixelY = 15.0f;
 
   // Inert: setting stores nothing, reading yields 0.
   OLE_COLOR BackColor() const { return 0; }
@@ -65,6 +67,9 @@ class OffScreenDC {
   void FillEllipse();
   void DrawBorder();
   void DrawFocusRect();
+  // Draws Text in the rectangle: aligned, or rotated and centred, with an
+  // optional 3-D copy behind it, clipped one pixel inside.
+  void DisplayText();
   // Copies a picture held at pixel scale by a drawable into the rectangle.
   void DrawBitmap(const DrawingTarget& oPicture);
 
