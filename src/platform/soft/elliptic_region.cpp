@@ -12,18 +12,42 @@ constexpr int64_t kTraceLimit = int64_t{1} << 16;
 
 }  // namespace
 
-EllipticRegion::EllipticRegion(int64_t width, int64_t height) : width_(width), height_(height) {
-  if (width_ <= kTraceLimit && height_ <= kTraceLimit) Trace();
+void EllipticRegion::Rows::Assign(size_t count, int32_t value) {
+  size_ = count;
+  if (count > kInline) heap_.assign(count, value);
+  std::fill_n(Data(), count, value);
 }
 
-void EllipticRegion::Trace() {
+EllipticRegion::EllipticRegion(int64_t width, int64_t height) : width_(width), height_(height) {
+  if (width_ <= kTraceLimit && height_ <= kTraceLimit) Trace(height_ - height_ / 2);
+}
+
+EllipticRegion::EllipticRegion(int64_t width, int64_t height, int64_t firstRow, int64_t endRow)
+    : width_(width), height_(height) {
+  if (width_ <= kTraceLimit && height_ <= kTraceLimit) Trace(LowerRowsFor(firstRow, endRow));
+}
+
+int64_t EllipticRegion::LowerIndex(int64_t row) const {
+  const int64_t middle = height_ / 2;  // the lower middle row
+  return (row >= middle ? row : height_ - 1 - row) - middle;
+}
+
+int64_t EllipticRegion::LowerRowsFor(int64_t firstRow, int64_t endRow) const {
+  // The lower index falls towards the middle row and rises away from it, so
+  // its largest value over a range of rows is at one of the range's ends.
+  const int64_t top = std::clamp<int64_t>(firstRow - 1, 0, height_ - 1);
+  const int64_t bottom = std::clamp<int64_t>(endRow, 0, height_ - 1);
+  return std::max(LowerIndex(top), LowerIndex(bottom)) + 1;
+}
+
+void EllipticRegion::Trace(int64_t rowCount) {
   traced_ = true;
   const int64_t a = width_ - 1;
   const int64_t b = height_ - 1;
   const int64_t oddB = b & 1;
-  const int64_t middle = height_ / 2;  // the lower middle row
-  lowerHalf_.assign(static_cast<size_t>(height_ - middle), -1);
-  lowerHalf_[0] = 0;
+  lowerHalf_.Assign(static_cast<size_t>(rowCount), -1);
+  int32_t* lowerHalf = lowerHalf_.Data();
+  lowerHalf[0] = 0;
   // The walk's integer error term and how it changes with each step in x and y.
   const int64_t stepX = 8 * b * b;
   const int64_t stepY = 8 * a * a;
@@ -31,10 +55,10 @@ void EllipticRegion::Trace() {
   int64_t errorY = 4 * a * a * (1 + oddB);
   int64_t error = errorX + errorY + a * a * oddB;
   int64_t x = 0;
-  size_t row = 0;
+  int64_t row = 0;
   // Every step moves x or the row; the bound only guards against a walk that
-  // would stall.
-  for (int64_t steps = width_ + height_ + 2; x <= width_ / 2 && steps > 0; --steps) {
+  // would stall. The walk ends once the last row asked for has its value.
+  for (int64_t steps = width_ + height_ + 2; x <= width_ / 2 && steps > 0 && row + 1 < rowCount; --steps) {
     const int64_t twice = 2 * error;
     if (twice >= errorX) {
       ++x;
@@ -45,7 +69,7 @@ void EllipticRegion::Trace() {
       ++row;
       errorY += stepY;
       error += errorY;
-      if (row < lowerHalf_.size()) lowerHalf_[row] = x;
+      lowerHalf[row] = static_cast<int32_t>(x);
     }
   }
 }
@@ -66,10 +90,10 @@ std::optional<int64_t> EllipticRegion::First(int64_t row) const {
   if (row < 0 || row >= height_) return std::nullopt;
   std::optional<int64_t> first;
   if (traced_) {
-    const int64_t middle = height_ / 2;
-    // The upper half mirrors the lower one about the box's centre.
-    const int64_t lower = row >= middle ? row : height_ - 1 - row;
-    const int64_t value = lowerHalf_[static_cast<size_t>(lower - middle)];
+    // The upper half mirrors the lower one about the box's centre; rows past
+    // those traced were not asked for.
+    const auto lower = static_cast<size_t>(LowerIndex(row));
+    const int64_t value = lower < lowerHalf_.Size() ? lowerHalf_.Data()[lower] : -1;
     if (value >= 0) first = value;
   } else {
     first = Computed(row);

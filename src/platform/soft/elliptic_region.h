@@ -13,6 +13,8 @@
 // points.
 
 #include <algorithm>
+#include <array>
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <vector>
@@ -23,8 +25,13 @@ namespace vorlex::gdi::soft {
 
 class EllipticRegion {
  public:
-  // width and height are at least 1.
+  // width and height are at least 1. Every row can be asked about.
   EllipticRegion(int64_t width, int64_t height);
+  // Only rows [firstRow, endRow) and their neighbours are asked about, so the
+  // walk stops once it has passed them.
+  EllipticRegion(int64_t width, int64_t height, int64_t firstRow, int64_t endRow);
+  EllipticRegion(const EllipticRegion&) = delete;
+  EllipticRegion& operator=(const EllipticRegion&) = delete;
 
   // The first offset of row k (0 = the box's top row); nullopt when the row is
   // empty or outside the box.
@@ -37,14 +44,32 @@ class EllipticRegion {
   int64_t Height() const { return height_; }
 
  private:
-  void Trace();
+  // The lower half's rows from the middle down, one value per row (-1 marks an
+  // empty row); small regions keep them inside the object.
+  class Rows {
+   public:
+    void Assign(size_t count, int32_t value);
+    size_t Size() const { return size_; }
+    int32_t* Data() { return size_ <= kInline ? inline_.data() : heap_.data(); }
+    const int32_t* Data() const { return size_ <= kInline ? inline_.data() : heap_.data(); }
+
+   private:
+    static constexpr size_t kInline = 128;
+    std::array<int32_t, kInline> inline_;
+    std::vector<int32_t> heap_;
+    size_t size_ = 0;
+  };
+
+  void Trace(int64_t rowCount);
+  // How many lower-half rows answer for rows [firstRow - 1, endRow].
+  int64_t LowerRowsFor(int64_t firstRow, int64_t endRow) const;
+  int64_t LowerIndex(int64_t row) const;
   std::optional<int64_t> Computed(int64_t row) const;
 
   int64_t width_;
   int64_t height_;
   bool traced_ = false;
-  // From the lower middle row down; -1 marks an empty row.
-  std::vector<int64_t> lowerHalf_;
+  Rows lowerHalf_;
 };
 
 // Paints the region of the box whose left-top corner is (left, top), the rows

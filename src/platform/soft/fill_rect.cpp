@@ -2,7 +2,7 @@
 
 #include "platform/gdi.h"
 #include "platform/soft/box.h"
-#include "platform/soft/brush_paint.h"
+#include "platform/soft/brush_spans.h"
 #include "platform/soft/draw_target.h"
 #include "platform/soft/object_table.h"
 
@@ -17,7 +17,7 @@ int FillRect(HDC dc, const RECT* rect, HBRUSH brush) {
   const int64_t width = int64_t{rect->right} - rect->left;
   const int64_t height = int64_t{rect->bottom} - rect->top;
   const soft::Box box = soft::BoxFromExtent(rect->left, rect->top, width, height);
-  soft::PaintBox(target->surface, box, soft::BrushPaint(*fill, *target->dc));
+  soft::FillBox(target->surface, box, *fill, *target->dc);
   return 1;
 }
 

@@ -67,11 +67,11 @@ Handle ObjectTable::Add(ObjectData data) {
     index = freeSlots_.back();
     freeSlots_.pop_back();
   } else {
-    if (slots_.size() >= kMaxSlots) return 0;
-    index = static_cast<uint32_t>(slots_.size());
-    slots_.emplace_back();
+    if (slotCount_ >= kMaxSlots) return 0;
+    if (slotCount_ % kBlockSize == 0) blocks_.push_back(std::make_unique<Slot[]>(kBlockSize));
+    index = slotCount_++;
   }
-  Slot& slot = slots_[index];
+  Slot& slot = SlotAt(index);
   slot.used = true;
   slot.stock = false;
   slot.deletePending = false;
@@ -83,8 +83,8 @@ Handle ObjectTable::Add(ObjectData data) {
 
 Slot* ObjectTable::Find(Handle handle) {
   const Decoded decoded = Decode(handle);
-  if (!decoded.valid || decoded.index >= slots_.size()) return nullptr;
-  Slot& slot = slots_[decoded.index];
+  if (!decoded.valid || decoded.index >= slotCount_) return nullptr;
+  Slot& slot = SlotAt(decoded.index);
   if (!slot.used || slot.generation != decoded.generation) return nullptr;
   return &slot;
 }

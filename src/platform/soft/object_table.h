@@ -7,7 +7,7 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <deque>
+#include <memory>
 #include <mutex>
 #include <variant>
 #include <vector>
@@ -55,8 +55,14 @@ class ObjectTable {
 
  private:
   Handle AddStock(ObjectData data);
+  Slot& SlotAt(uint32_t index) { return blocks_[index >> kBlockBits][index & (kBlockSize - 1)]; }
 
-  std::deque<Slot> slots_;  // a deque keeps slot addresses stable while it grows
+  // Slots live in blocks that never move, so their addresses stay valid while
+  // the table grows, and a slot number finds its block with a shift.
+  static constexpr unsigned kBlockBits = 8;
+  static constexpr uint32_t kBlockSize = uint32_t{1} << kBlockBits;
+  std::vector<std::unique_ptr<Slot[]>> blocks_;
+  uint32_t slotCount_ = 0;
   std::vector<uint32_t> freeSlots_;
   size_t live_ = 0;
   Handle stockPen_ = 0;

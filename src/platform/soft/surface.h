@@ -1,7 +1,8 @@
 #pragma once
-// The pixels a drawing call writes, and the only way it writes them: spans and
-// single pixels clipped to the bitmap first. Coordinates are 64-bit so that any
-// sum or difference of two 32-bit GDI coordinates is exact.
+// The pixels a drawing call writes, and the plain way to write them: one pixel
+// at a time through a paint, spans and single pixels clipped to the bitmap
+// first (spans.h writes whole spans at once). Coordinates are 64-bit so that
+// any sum or difference of two 32-bit GDI coordinates is exact.
 
 #include <algorithm>
 #include <cstddef>

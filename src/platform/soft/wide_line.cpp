@@ -3,10 +3,11 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <vector>
+#include <optional>
 
 #include "platform/soft/box.h"
 #include "platform/soft/elliptic_region.h"
+#include "platform/soft/spans.h"
 
 namespace vorlex::gdi::soft {
 namespace {
@@ -15,6 +16,7 @@ struct Corner {
   int64_t x;
   int64_t y;
 };
+using Quad = std::array<Corner, 4>;
 
 // Doubles to integers, clamped far inside int64 so no conversion overflows;
 // any value past the clamp is far off every surface anyway.
@@ -26,20 +28,41 @@ int64_t ToCoordinate(double value) {
 int64_t RoundHalfUp(double value) { return ToCoordinate(std::floor(value + 0.5)); }
 int64_t Ceil(double value) { return ToCoordinate(std::ceil(value)); }
 
-void PaintCap(const Surface& surface, int64_t x, int64_t y, int64_t width, const SolidPaint& paint) {
+void PaintCap(const Surface& surface, int64_t x, int64_t y, int64_t width, uint32_t pixel) {
   const int64_t left = x - width / 2;
   const int64_t top = y - width / 2;
   if (width <= 2) {
-    PaintBox(surface, {left, top, left + width, top + width}, paint);
+    FillSolidBox(surface, {left, top, left + width, top + width}, pixel);
     return;
   }
-  PaintRegion(surface, EllipticRegion(width, width), left, top, paint);
+  const int64_t firstRow = std::max<int64_t>(0, -top);
+  const int64_t endRow = std::min(width, surface.height - top);
+  if (firstRow >= endRow) return;
+  const EllipticRegion region(width, width, firstRow, endRow);
+  for (int64_t row = firstRow; row < endRow; ++row) {
+    const std::optional<int64_t> first = region.First(row);
+    if (first) FillSolidSpan(surface, top + row, left + *first, left + width - *first, pixel);
+  }
 }
 
-// Where row y crosses the polygon's edges, sorted; an edge covers the rows
-// from its upper end to just above its lower end.
-std::vector<double> Crossings(const std::array<Corner, 4>& corners, int64_t y) {
-  std::vector<double> xs;
+// Where row y crosses the quadrilateral's edges, sorted; an edge covers the
+// rows from its upper end to just above its lower end.
+struct Crossings {
+  std::array<double, 4> xs;
+  size_t count = 0;
+};
+
+// Insertion sort: at most four values.
+void Sort(Crossings& crossings) {
+  for (size_t i = 1; i < crossings.count; ++i) {
+    for (size_t j = i; j > 0 && crossings.xs[j] < crossings.xs[j - 1]; --j) {
+      std::swap(crossings.xs[j], crossings.xs[j - 1]);
+    }
+  }
+}
+
+Crossings CrossingsOf(const Quad& corners, int64_t y) {
+  Crossings found;
   for (size_t i = 0; i < corners.size(); ++i) {
     Corner a = corners[i];
     Corner b = corners[(i + 1) % corners.size()];
@@ -47,15 +70,15 @@ std::vector<double> Crossings(const std::array<Corner, 4>& corners, int64_t y) {
     if (a.y > b.y) std::swap(a, b);
     if (y < a.y || y >= b.y) continue;
     const double t = static_cast<double>(y - a.y) / static_cast<double>(b.y - a.y);
-    xs.push_back(static_cast<double>(a.x) + t * static_cast<double>(b.x - a.x));
+    found.xs[found.count++] = static_cast<double>(a.x) + t * static_cast<double>(b.x - a.x);
   }
-  std::sort(xs.begin(), xs.end());
-  return xs;
+  Sort(found);
+  return found;
 }
 
 // Even-odd fill: pixel x of row y is in when its centre lies at or right of a
 // left crossing and left of the matching right crossing.
-void FillPolygon(const Surface& surface, const std::array<Corner, 4>& corners, const SolidPaint& paint) {
+void FillQuad(const Surface& surface, const Quad& corners, uint32_t pixel) {
   int64_t top = corners[0].y;
   int64_t bottom = corners[0].y;
   for (const Corner& c : corners) {
@@ -65,12 +88,14 @@ void FillPolygon(const Surface& surface, const std::array<Corner, 4>& corners, c
   const int64_t firstRow = std::max<int64_t>(top, 0);
   const int64_t endRow = std::min(bottom, surface.height);
   for (int64_t y = firstRow; y < endRow; ++y) {
-    const std::vector<double> xs = Crossings(corners, y);
-    for (size_t i = 0; i + 1 < xs.size(); i += 2) PaintSpan(surface, y, Ceil(xs[i]), Ceil(xs[i + 1]), paint);
+    const Crossings row = CrossingsOf(corners, y);
+    for (size_t i = 0; i + 1 < row.count; i += 2) {
+      FillSolidSpan(surface, y, Ceil(row.xs[i]), Ceil(row.xs[i + 1]), pixel);
+    }
   }
 }
 
-void PaintSlantedBody(const Surface& surface, Corner p0, Corner p1, int64_t width, const SolidPaint& paint) {
+void PaintSlantedBody(const Surface& surface, Corner p0, Corner p1, int64_t width, uint32_t pixel) {
   const double dx = static_cast<double>(p1.x - p0.x);
   const double dy = static_cast<double>(p1.y - p0.y);
   const double length = std::hypot(dx, dy);
@@ -83,22 +108,22 @@ void PaintSlantedBody(const Surface& surface, Corner p0, Corner p1, int64_t widt
   const int64_t rightDown = (dx > 0) == (dy > 0) ? -1 : 1;
   const Corner right{RoundHalfUp((extentX + 1) / 2), rightDown * RoundHalfUp((extentY + 1) / 2)};
   const Corner left{-RoundHalfUp(extentX / 2), -rightDown * RoundHalfUp(extentY / 2)};
-  const std::array<Corner, 4> corners{{{p0.x + left.x, p0.y + left.y},
-                                       {p0.x + right.x, p0.y + right.y},
-                                       {p1.x + right.x, p1.y + right.y},
-                                       {p1.x + left.x, p1.y + left.y}}};
-  FillPolygon(surface, corners, paint);
+  const Quad corners{{{p0.x + left.x, p0.y + left.y},
+                      {p0.x + right.x, p0.y + right.y},
+                      {p1.x + right.x, p1.y + right.y},
+                      {p1.x + left.x, p1.y + left.y}}};
+  FillQuad(surface, corners, pixel);
 }
 
-void PaintBody(const Surface& surface, Corner p0, Corner p1, int64_t width, const SolidPaint& paint) {
+void PaintBody(const Surface& surface, Corner p0, Corner p1, int64_t width, uint32_t pixel) {
   if (p0.y == p1.y) {
     const int64_t top = p0.y - width / 2;
-    PaintBox(surface, {std::min(p0.x, p1.x), top, std::max(p0.x, p1.x), top + width}, paint);
+    FillSolidBox(surface, {std::min(p0.x, p1.x), top, std::max(p0.x, p1.x), top + width}, pixel);
   } else if (p0.x == p1.x) {
     const int64_t left = p0.x - width / 2;
-    PaintBox(surface, {left, std::min(p0.y, p1.y), left + width, std::max(p0.y, p1.y)}, paint);
+    FillSolidBox(surface, {left, std::min(p0.y, p1.y), left + width, std::max(p0.y, p1.y)}, pixel);
   } else {
-    PaintSlantedBody(surface, p0, p1, width, paint);
+    PaintSlantedBody(surface, p0, p1, width, pixel);
   }
 }
 
@@ -107,10 +132,9 @@ void PaintBody(const Surface& surface, Corner p0, Corner p1, int64_t width, cons
 void DrawWideLine(const Surface& surface, int64_t x0, int64_t y0, int64_t x1, int64_t y1, int64_t width,
                   uint32_t pixel) {
   if (surface.Empty()) return;
-  const SolidPaint paint{pixel};
-  PaintBody(surface, {x0, y0}, {x1, y1}, width, paint);
-  PaintCap(surface, x0, y0, width, paint);
-  PaintCap(surface, x1, y1, width, paint);
+  PaintBody(surface, {x0, y0}, {x1, y1}, width, pixel);
+  PaintCap(surface, x0, y0, width, pixel);
+  PaintCap(surface, x1, y1, width, pixel);
 }
 
 }  // namespace vorlex::gdi::soft
