@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Sets up a Debian machine, builds every preset and runs the test suites:
 #   native, native-asan   ctest
+#   fuzz                  the picture fuzz targets (clang, libFuzzer), a few seconds each
 #   win64                 ctest, every test executable under Wine
 #   win32                 built and linked; run only when a 32-bit Wine works
 # Ends with one line "N passed, N failed" (test cases over every suite that ran;
@@ -12,6 +13,7 @@
 #   VORLEX_WINEPREFIX     the Wine prefix (default: build/wineprefix)
 #   VORLEX_TEST_TIMEOUT   seconds allowed to one test (default 300; doubled under
 #                         the sanitizers, tripled under Wine)
+#   VORLEX_FUZZ_SECONDS   seconds each fuzz target runs (default 5)
 set -euo pipefail
 
 repo="$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)"
@@ -27,10 +29,29 @@ command -v g++ >/dev/null 2>&1 || missing+=(g++)
 [[ -f /usr/src/googletest/CMakeLists.txt ]] || missing+=(googletest)
 [[ -f /usr/include/benchmark/benchmark.h ]] || missing+=(libbenchmark-dev)
 [[ -f /usr/include/png.h ]] || missing+=(libpng-dev)
+# softgdi's text: FreeType, fontconfig, Wine's MS Sans Serif and a sans fallback.
+[[ -f /usr/include/freetype2/ft2build.h ]] || missing+=(libfreetype-dev)
+[[ -f /usr/include/fontconfig/fontconfig.h ]] || missing+=(libfontconfig-dev)
+[[ -f /usr/share/wine/fonts/sserife.fon ]] || missing+=(fonts-wine)
+[[ -f /usr/share/fonts/truetype/dejavu/DejaVuSans.ttf ]] || missing+=(fonts-dejavu-core)
+[[ -f /usr/include/jpeglib.h ]] || missing+=(libjpeg-dev)
+[[ -f /usr/include/gif_lib.h ]] || missing+=(libgif-dev)
 command -v x86_64-w64-mingw32-g++-posix >/dev/null 2>&1 || missing+=(g++-mingw-w64-x86-64)
 command -v i686-w64-mingw32-g++-posix >/dev/null 2>&1 || missing+=(g++-mingw-w64-i686)
 [[ -x /usr/lib/wine/wine64 ]] || command -v wine64 >/dev/null 2>&1 || missing+=(wine64)
 [[ -x /usr/bin/wine ]] || missing+=(wine)
+
+# libFuzzer for the fuzz targets, when clang is there: Debian ships it in the
+# runtime package of clang's version (libclang-rt-14-dev for clang 14).
+fuzzer_links() {
+  mkdir -p "$repo/build"
+  echo 'extern "C" int LLVMFuzzerTestOneInput(const unsigned char*, unsigned long) { return 0; }' |
+    clang++ -x c++ -fsanitize=fuzzer -o "$repo/build/fuzzer-probe" - >/dev/null 2>&1
+}
+clang_major="$(clang++ --version 2>/dev/null | sed -n 's/.*clang version \([0-9][0-9]*\).*/\1/p' | head -n 1 || true)"
+if [[ -n "$clang_major" ]] && ! fuzzer_links; then
+  missing+=("libclang-rt-$clang_major-dev")
+fi
 
 if ((${#missing[@]})); then
   echo "== installing: ${missing[*]}"
@@ -204,6 +225,52 @@ if [[ -n "${built[native-asan]:-}" ]]; then
   ASAN_OPTIONS="${ASAN_OPTIONS:-detect_leaks=1}" \
   UBSAN_OPTIONS="${UBSAN_OPTIONS:-print_stacktrace=1:halt_on_error=1}" \
     run_native native-asan $((test_timeout * 2))
+fi
+
+# ---------------------------------------------------------------------------
+# Fuzz targets of the picture decoders: a project of their own (fuzz/) built
+# with clang. Each runs for a few seconds from its seed corpus (fuzz/corpus,
+# read only; what it finds goes to build/fuzz-corpus); each target is one test
+# case, failed by a crash, a leak, a sanitizer report or a timeout.
+
+fuzz_seconds="${VORLEX_FUZZ_SECONDS:-5}"
+fuzz_targets=(bmp_fuzzer ico_fuzzer jpeg_fuzzer gif_fuzzer png_fuzzer picture_fuzzer)
+
+build_fuzzers() {
+  local dir="$repo/build/fuzz" home
+  home="$(sed -n 's/^CMAKE_HOME_DIRECTORY:INTERNAL=//p' "$dir/CMakeCache.txt" 2>/dev/null || true)"
+  [[ -z "$home" || "$home" == "$repo/fuzz" ]] || rm -rf "$dir"
+  echo "== configure fuzz"
+  CC=clang CXX=clang++ cmake -S "$repo/fuzz" -B "$dir" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo &&
+    echo "== build fuzz" &&
+    cmake --build "$dir" "${build_jobs[@]}"
+}
+
+run_fuzzer() {
+  local name="$1" log="$results/fuzz-$1.log" rc=0
+  mkdir -p "$repo/build/fuzz-corpus/$name" "$repo/build/fuzz-artifacts"
+  timeout -k 10 $((fuzz_seconds * 4 + 60)) "$repo/build/fuzz/$name" \
+    "$repo/build/fuzz-corpus/$name" "$repo/fuzz/corpus/$name" \
+    -max_total_time="$fuzz_seconds" -runs=5000000 -timeout=10 -rss_limit_mb=2048 \
+    -artifact_prefix="$repo/build/fuzz-artifacts/$name-" >"$log" 2>&1 </dev/null || rc=$?
+  if ((rc == 0)); then
+    echo "== fuzz $name: $(grep -o 'Done [0-9]* runs in [0-9]* second(s)' "$log" | tail -n 1)"
+    TIER_PASSED=$((TIER_PASSED + 1))
+  else
+    echo "== fuzz $name failed (exit $rc; log: $log)"
+    tail -n 30 "$log"
+    TIER_FAILED=$((TIER_FAILED + 1))
+  fi
+}
+
+if [[ -z "$clang_major" ]] || ! fuzzer_links; then
+  echo "== fuzz: no clang with libFuzzer; the fuzz targets are left out"
+elif ! build_fuzzers; then
+  failures+=("the fuzz build failed")
+else
+  TIER_PASSED=0 TIER_FAILED=0 TIER_SKIPPED=0
+  for target in "${fuzz_targets[@]}"; do run_fuzzer "$target"; done
+  add_tier fuzz
 fi
 
 # ---------------------------------------------------------------------------

@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <filesystem>
 #include <initializer_list>
 #include <memory>
 #include <sstream>
@@ -18,6 +19,7 @@
 #include "command_line.h"
 #include "dispatch.h"
 #include "options.h"
+#include "picture/picture_file.h"
 #include "result_text.h"
 #include "source.h"
 #include "statement.h"
@@ -81,6 +83,7 @@ class FixedPicture : public Picture {
   uint32_t Handle() const override { return handle_; }
   int32_t PixelWidth() const override { return 1; }
   int32_t PixelHeight() const override { return 1; }
+  bool Render(uintptr_t, int32_t, int32_t) const override { return true; }
 
  private:
   uint32_t handle_;
@@ -187,6 +190,34 @@ TEST_F(Eval, PicturePrintsItsHandle) { EXPECT_EQ(Run({"Picture"}), "0\n"); }
 
 TEST_F(Eval, NothingAssignedToAnObjectPropertyGoesByReference) {
   EXPECT_EQ(Run({"Picture = Nothing", "Picture"}), "Nothing\n");
+}
+
+TEST_F(Eval, LoadPicturePutsAPictureThatPrintsItsHandle) {
+  const picture_test::PictureFile files;
+  const std::string load = "Picture = LoadPicture(\"" + files.Bitmap() + "\")";
+  const std::string printed = Run({load.c_str(), "Picture"});
+  EXPECT_NE(printed, "0\n");
+  EXPECT_EQ(printed, std::to_string(static_cast<int32_t>(control.get_Picture()->Handle())) + "\n");
+  EXPECT_EQ(control.get_Picture()->PixelWidth(), 2);
+}
+
+TEST_F(Eval, LoadPictureOfNoPathPutsTheEmptyPicture) {
+  EXPECT_EQ(Run({"Picture = LoadPicture(\"\")", "Picture"}), "0\n");
+  ASSERT_NE(control.get_Picture(), nullptr);
+  EXPECT_EQ(control.get_Picture()->Type(), kPicTypeNone);
+}
+
+TEST_F(Eval, LoadPictureOfAMissingFilePrintsError53AndGoesOn) {
+  const picture_test::PictureFile files;
+  const std::string load = "Picture = LoadPicture(\"" + files.Missing() + "\")";
+  EXPECT_EQ(Run({"AddBlock", load.c_str(), "Blocks", "Picture"}), "error 53\n1\n0\n");
+}
+
+TEST_F(Eval, LoadPictureOfAFileThatIsNoPicturePrintsError481) {
+  const picture_test::PictureFile files;
+  const std::string load = "BlockPicture(1) = LoadPicture(\"" + files.NotAPicture() + "\")";
+  EXPECT_EQ(Run({"AddBlock", load.c_str()}), "error 481\n");
+  EXPECT_EQ(control.get_BlockPicture(Variant(static_cast<int16_t>(1))), nullptr);
 }
 
 // Which call a statement makes.
@@ -321,7 +352,28 @@ TEST(EvalCommand, StatementThatDoesNotReadRunsNothingAndReturns2) {
   EXPECT_EQ(err.str(), "vorlex: cannot read statement \"Caption = \"x\": unterminated string\n");
 }
 
+TEST(EvalCommand, LoadPictureReadsARelativePathFromTheCurrentFolder) {
+  const picture_test::PictureFile files;
+  Options options;
+  options.statements = {"Picture = LoadPicture(\"two.bmp\")", "Picture"};
+  std::ostringstream out;
+  std::ostringstream err;
+  const std::filesystem::path before = std::filesystem::current_path();
+  std::filesystem::current_path(files.folder());
+  const int status = RunEval(options, out, err);
+  std::filesystem::current_path(before);
+  EXPECT_EQ(status, 0);
+  EXPECT_NE(out.str(), "0\n");
+  EXPECT_EQ(out.str().find("error"), std::string::npos) << out.str();
+  EXPECT_EQ(err.str(), "");
+}
+
 // The command line.
+
+TEST(EvalOptions, UsageNamesTheValuesAStatementTakes) {
+  EXPECT_NE(UsageText().find("LoadPicture(\"file\")"), std::string::npos);
+  EXPECT_NE(UsageText().find("Nothing"), std::string::npos);
+}
 
 TEST(EvalOptions, NewControlDefaultsTo60By21InUserMode) {
   const Options options = ParseOptions({"eval", "--new", "-e", "Blocks"});

@@ -10,6 +10,10 @@
 #include <memory>
 #include <string>
 
+#include "picture/picture_file.h"
+#include "vorlex/AutomationError.h"
+#include "vorlex/Picture.h"
+
 using vorlex::Variant;
 using vorlex::VarType;
 using vorlex::cli::ParseStatement;
@@ -124,6 +128,60 @@ TEST(Statement, NoSpacesAreNeeded) {
   const Statement s = ParseStatement("BlockText(1)=\"x\"");
   EXPECT_EQ(s.args.at(0), I2(1));
   EXPECT_EQ(*s.value, Variant("x"));
+}
+
+// LoadPicture("path").
+
+TEST(Literal, LoadPictureLoadsThePictureFile) {
+  const vorlex::picture_test::PictureFile files;
+  const Statement s = ParseStatement("Picture = LoadPicture(\"" + files.Bitmap() + "\")");
+  ASSERT_TRUE(s.value.has_value());
+  ASSERT_EQ(s.value->Type(), VarType::Object);
+  const auto picture = std::dynamic_pointer_cast<vorlex::Picture>(s.value->ToObject());
+  ASSERT_NE(picture, nullptr);
+  EXPECT_EQ(picture->Type(), vorlex::kPicTypeBitmap);
+  EXPECT_EQ(picture->PixelWidth(), 2);
+  EXPECT_EQ(picture->PixelHeight(), 1);
+  EXPECT_NE(picture->Handle(), 0u);
+  EXPECT_EQ(s.valueError, 0);
+}
+
+TEST(Literal, LoadPictureOfNoPathIsTheEmptyPicture) {
+  for (const char* text : {"X = LoadPicture()", "X = LoadPicture(\"\")", "X = loadpicture ( \"\" )"}) {
+    const Statement s = ParseStatement(text);
+    ASSERT_TRUE(s.value.has_value()) << text;
+    const auto picture = std::dynamic_pointer_cast<vorlex::Picture>(s.value->ToObject());
+    ASSERT_NE(picture, nullptr) << text;
+    EXPECT_EQ(picture->Type(), vorlex::kPicTypeNone) << text;
+    EXPECT_EQ(picture->Handle(), 0u) << text;
+  }
+}
+
+TEST(Literal, LoadPictureIsAnArgumentLikeAnyValue) {
+  const Statement s = ParseStatement("SetBlockPicture(LoadPicture(), 2)");
+  ASSERT_EQ(s.args.size(), 2u);
+  EXPECT_EQ(s.args[0].Type(), VarType::Object);
+  EXPECT_EQ(s.args[1], I2(2));
+}
+
+TEST(Literal, LoadPictureOfAMissingFileKeepsError53ForTheStatement) {
+  const vorlex::picture_test::PictureFile files;
+  const Statement s = ParseStatement("Picture = LoadPicture(\"" + files.Missing() + "\")");
+  EXPECT_EQ(s.name, "Picture");
+  EXPECT_EQ(s.valueError, vorlex::kErrFileNotFound);
+}
+
+TEST(Literal, LoadPictureOfAFileThatIsNoPictureKeepsError481) {
+  const vorlex::picture_test::PictureFile files;
+  EXPECT_EQ(ParseStatement("Picture = LoadPicture(\"" + files.NotAPicture() + "\")").valueError,
+            vorlex::kErrInvalidPicture);
+}
+
+TEST(Literal, FirstErrorOfTheStatementIsKept) {
+  const vorlex::picture_test::PictureFile files;
+  const Statement s =
+      ParseStatement("Foo(LoadPicture(\"" + files.NotAPicture() + "\"), LoadPicture(\"" + files.Missing() + "\"))");
+  EXPECT_EQ(s.valueError, vorlex::kErrInvalidPicture);
 }
 
 // Decimal integers.
@@ -336,10 +394,20 @@ TEST(StatementProblem, NamesAreNotValues) {
   EXPECT_PROBLEM("BlockColor(Blocks)", "\"Blocks\" is not a value");
 }
 
-TEST(StatementProblem, LoadPictureIsNotSupportedYet) {
-  EXPECT_PROBLEM("Picture = LoadPicture(\"gauge.bmp\")", "LoadPicture is not supported by this build yet");
-  EXPECT_PROBLEM("BlockPicture(1) = loadpicture()", "LoadPicture is not supported by this build yet");
-  EXPECT_PROBLEM("LoadPicture(\"gauge.bmp\")", "LoadPicture is not supported by this build yet");
+TEST(StatementProblem, LoadPictureIsAValueNotAMember) {
+  EXPECT_PROBLEM("LoadPicture(\"gauge.bmp\")", "LoadPicture is a function, not a member");
+  EXPECT_PROBLEM("loadpicture", "LoadPicture is a function, not a member");
+}
+
+TEST(StatementProblem, LoadPictureTakesOnePathInParentheses) {
+  EXPECT_PROBLEM("Picture = LoadPicture", "LoadPicture needs its path in parentheses");
+  EXPECT_PROBLEM("Picture = LoadPicture \"a.bmp\"", "LoadPicture needs its path in parentheses");
+  EXPECT_PROBLEM("Picture = LoadPicture(5)", "LoadPicture takes a \"path\" string at \"5)\"");
+  EXPECT_PROBLEM("Picture = LoadPicture(a.bmp)", "LoadPicture takes a \"path\" string");
+  EXPECT_PROBLEM("Picture = LoadPicture(\"a.bmp\", 1)", "LoadPicture takes only the path here");
+  EXPECT_PROBLEM("Picture = LoadPicture(\"a.bmp\"", "missing \")\" after LoadPicture's path");
+  EXPECT_PROBLEM("Picture = LoadPicture(\"a.bmp", "unterminated string");
+  EXPECT_PROBLEM("Picture = LoadPicture(\"\") 5", "unexpected \"5\"");
 }
 
 TEST(StatementProblem, ExpressionsAreNotValues) {

@@ -15,6 +15,7 @@ enum ErrorNumber : int32_t {
   kErrSubscript = 9,
   kErrDivisionByZero = 11,
   kErrTypeMismatch = 13,
+  kErrFileNotFound = 53,
   kErrObjectNotSet = 91,
   kErrInvalidPropertyValue = 380,
   kErrGetNotAtRunTime = 393,

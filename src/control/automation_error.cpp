@@ -16,6 +16,8 @@ std::string StandardErrorText(int32_t number) {
       return "Division by zero";
     case kErrTypeMismatch:
       return "Type mismatch";
+    case kErrFileNotFound:
+      return "File not found";
     case kErrObjectNotSet:
       return "Object variable or With block variable not set";
     case kErrInvalidPropertyValue:

@@ -9,6 +9,7 @@ class NoPicture final : public Picture {
   uint32_t Handle() const override { return 0; }
   int32_t PixelWidth() const override { return 0; }
   int32_t PixelHeight() const override { return 0; }
+  bool Render(uintptr_t, int32_t, int32_t) const override { return true; }
 };
 }  // namespace
 

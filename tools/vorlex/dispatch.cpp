@@ -5,6 +5,8 @@
 #include <utility>
 #include <vector>
 
+#include "vorlex/AutomationError.h"
+
 namespace vorlex::cli {
 
 InvokeKind CallKind(const Statement& statement) {
@@ -18,6 +20,7 @@ InvokeKind CallKind(const Statement& statement) {
 }
 
 Variant Execute(Vorlex& control, const Statement& statement) {
+  if (statement.valueError != 0) RaiseError(statement.valueError);
   std::vector<Variant> args = statement.args;
   if (statement.value) args.push_back(*statement.value);
   return Invoke(control, statement.name, CallKind(statement), std::move(args));

@@ -15,7 +15,8 @@ namespace vorlex::cli {
 InvokeKind CallKind(const Statement& statement);
 
 // Calls the member; the assigned value goes last. Raises AutomationError as
-// Invoke does (438 for a name the table does not hold).
+// Invoke does (438 for a name the table does not hold), or the error a value of
+// the statement raised while it was read, without calling anything.
 Variant Execute(Vorlex& control, const Statement& statement);
 
 }  // namespace vorlex::cli

@@ -48,7 +48,9 @@ std::string UsageText() {
          "  --size WxH     the control's client size in pixels\n"
          "  --design       run the control in design mode instead of user mode\n"
          "  -e STATEMENT   a call in Basic syntax: Name, Name(args), Name = value,\n"
-         "                 Name(args) = value; eval prints each value it yields\n";
+         "                 Name(args) = value; eval prints each value it yields.\n"
+         "                 Values: numbers, \"strings\", True, False, Nothing and\n"
+         "                 LoadPicture(\"file\") (BMP, ICO, GIF, JPEG or PNG)\n";
 }
 
 Options ParseOptions(const std::vector<std::string>& args) {

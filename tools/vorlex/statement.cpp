@@ -5,8 +5,11 @@
 
 #include <cstddef>
 #include <memory>
+#include <utility>
 
 #include "literal.h"
+#include "vorlex/AutomationError.h"
+#include "vorlex/Picture.h"
 
 namespace vorlex::cli {
 
@@ -30,22 +33,21 @@ class Parser {
   explicit Parser(std::string_view text) : text_(text) {}
 
   Statement Parse() {
-    Statement statement;
     SkipSpaces();
     if (AtEnd()) Fail("the statement is empty");
-    statement.name = Name();
+    statement_.name = Name();
     SkipSpaces();
-    if (Peek() == '(') statement.args = Arguments();
+    if (Peek() == '(') statement_.args = Arguments();
     SkipSpaces();
     if (Peek() == '=') {
       ++pos_;
       SkipSpaces();
       if (AtEnd()) Fail("expected a value after \"=\"");
-      statement.value = Value();
+      statement_.value = Value();
       SkipSpaces();
     }
     if (!AtEnd()) Fail("unexpected " + Rest());
-    return statement;
+    return std::move(statement_);
   }
 
  private:
@@ -67,7 +69,9 @@ class Parser {
   std::string Name() {
     if (!IsLetter(Peek())) Fail("expected a member name at " + Rest());
     const std::string_view name = Word();
-    if (SameWord(name, "LoadPicture")) Fail("LoadPicture is not supported by this build yet");
+    if (SameWord(name, "LoadPicture")) {
+      Fail("LoadPicture is a function, not a member: use it as a value, as in Picture = LoadPicture(\"file.bmp\")");
+    }
     return std::string(name);
   }
 
@@ -114,10 +118,36 @@ class Parser {
       if (SameWord(word, "True")) return Variant::Boolean(true);
       if (SameWord(word, "False")) return Variant::Boolean(false);
       if (SameWord(word, "Nothing")) return Variant(std::shared_ptr<Object>());
-      if (SameWord(word, "LoadPicture")) Fail("LoadPicture is not supported by this build yet");
-      Fail("\"" + std::string(word) + "\" is not a value: use a number, a \"string\", True, False or Nothing");
+      if (SameWord(word, "LoadPicture")) return LoadPictureCall();
+      Fail("\"" + std::string(word) +
+           "\" is not a value: use a number, a \"string\", True, False, Nothing or LoadPicture(\"path\")");
     }
     Fail("expected a value at " + Rest());
+  }
+
+  // The rest of LoadPicture( [ "path" ] ): the picture, or Empty with the
+  // error it raised kept for the statement.
+  Variant LoadPictureCall() {
+    SkipSpaces();
+    if (Peek() != '(') Fail("LoadPicture needs its path in parentheses: LoadPicture(\"path\")");
+    ++pos_;
+    SkipSpaces();
+    std::string path;
+    if (Peek() == '"') {
+      path = String().ToString();
+      SkipSpaces();
+    } else if (Peek() != ')' && !AtEnd()) {
+      Fail("LoadPicture takes a \"path\" string at " + Rest());
+    }
+    if (Peek() == ',') Fail("LoadPicture takes only the path here");
+    if (Peek() != ')') Fail("missing \")\" after LoadPicture's path");
+    ++pos_;
+    try {
+      return Variant(std::shared_ptr<Object>(LoadPicture(path)));
+    } catch (const AutomationError& error) {
+      if (statement_.valueError == 0) statement_.valueError = error.Number();
+      return Variant();
+    }
   }
 
   Variant Number(bool negative) {
@@ -147,6 +177,7 @@ class Parser {
 
   std::string_view text_;
   std::size_t pos_ = 0;
+  Statement statement_;
 };
 
 }  // namespace

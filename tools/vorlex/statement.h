@@ -2,8 +2,12 @@
 // One call of the control's automation interface in Basic syntax:
 //   Name    Name(args)    Name = value    Name(args) = value
 // Arguments and values are literals: numbers (see literal.h), "strings" with ""
-// for a quote, True, False and Nothing. An empty argument is an omitted one.
+// for a quote, True, False, Nothing and LoadPicture("path"), which loads a
+// picture file as Basic's LoadPicture does (LoadPicture() and LoadPicture("")
+// give the empty picture; a relative path is relative to the current folder).
+// An empty argument is an omitted one.
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -21,9 +25,14 @@ struct Statement {
   std::vector<Variant> args;
   // The assigned value, for Name = value and Name(args) = value.
   std::optional<Variant> value;
+  // The automation error a value raised while it was read (LoadPicture of a
+  // missing file: 53), or 0. Running the statement raises it instead of calling
+  // the member, as Basic raises it before the call.
+  int32_t valueError = 0;
 };
 
-// Reads one statement; throws SyntaxError saying what is wrong.
+// Reads one statement; throws SyntaxError saying what is wrong. Pictures named
+// by LoadPicture are loaded here.
 Statement ParseStatement(std::string_view text);
 
 }  // namespace vorlex::cli

@@ -1,0 +1,8 @@
+// The BMP decoder on arbitrary bytes.
+
+#include "fuzz_input.h"
+#include "picture/bmp_decoder.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
+  return vorlex::fuzz::RunDecoder(data, size, vorlex::picture::DecodeBmp);
+}
