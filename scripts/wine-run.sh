@@ -57,9 +57,28 @@ wineserver_cmd() {
   fi
 }
 
+# Wine's own fonts (MS Sans Serif, System, Small Fonts, Tahoma, ...), where a
+# Windows system has its fonts: Debian's fonts-wine installs them in a folder
+# its Wine does not look in, so they are linked into the prefix's Fonts folder.
+wine_fonts=/usr/share/wine/fonts
+prefix_fonts() { echo "$WINEPREFIX/drive_c/windows/Fonts"; }
+
+fonts_linked() {
+  [[ ! -d "$wine_fonts" || -e "$(prefix_fonts)/sserife.fon" ]]
+}
+
+link_wine_fonts() {
+  local fonts font
+  fonts="$(prefix_fonts)"
+  [[ -d "$wine_fonts" && -d "$fonts" ]] || return 0
+  for font in "$wine_fonts"/*; do
+    [[ -e "$fonts/${font##*/}" ]] || ln -s "$font" "$fonts/" || true
+  done
+}
+
 # Creates the prefix once; concurrent callers wait for the first one.
 ensure_prefix() {
-  [[ -f "$WINEPREFIX/system.reg" ]] && return 0
+  [[ -f "$WINEPREFIX/system.reg" ]] && fonts_linked && return 0
   mkdir -p "$(dirname "$WINEPREFIX")"
   local lock="$WINEPREFIX.lock"
   exec 9>"$lock"
@@ -78,6 +97,7 @@ ensure_prefix() {
       return 1
     fi
   fi
+  link_wine_fonts
   exec 9>&-
 }
 

@@ -11,14 +11,15 @@ using soft::DeviceContext;
 using soft::Handle;
 using soft::ObjectTable;
 
-// A DC holding the stock pen and brush; a memory DC also holds the stock 1x1
-// bitmap, the screen none. Stock objects need no selection count.
+// A DC holding the stock pen, brush and font; a memory DC also holds the stock
+// 1x1 bitmap, the screen none. Stock objects need no selection count.
 Handle NewDc(bool screen) {
   ObjectTable& table = soft::Objects();
   DeviceContext dc;
   dc.screen = screen;
   dc.pen = table.StockPen();
   dc.brush = table.StockBrush();
+  dc.font = table.StockFont();
   dc.bitmap = screen ? 0 : table.StockBitmap();
   return table.Add(dc);
 }
@@ -35,6 +36,7 @@ void DestroyDc(Handle handle) {
   table.Release(dc.pen);
   table.Release(dc.brush);
   table.Release(dc.bitmap);
+  table.Release(dc.font);
 }
 
 DeviceContext* FindDc(HDC dc) { return soft::Objects().Get<DeviceContext>(soft::ValueOf(dc)); }

@@ -1,6 +1,7 @@
 #include "platform/soft/object_table.h"
 
 #include <algorithm>
+#include <iterator>
 #include <limits>
 #include <utility>
 
@@ -39,6 +40,16 @@ Decoded Decode(Handle value) {
   return {true, slotPlusOne - 1, static_cast<uint32_t>(generation)};
 }
 
+// The font every DC starts with: GDI's system font, 16 pixels high and bold.
+Font SystemFont() {
+  Font font;
+  font.logFont.lfHeight = 16;
+  font.logFont.lfWeight = FW_BOLD;
+  const char name[] = "System";
+  std::copy(std::begin(name), std::end(name), font.logFont.lfFaceName);
+  return font;
+}
+
 uint32_t NextGeneration(uint32_t generation) {
   const uint32_t next = (generation + 1) & kGenerationMask;
   return next == 0 ? 1 : next;
@@ -51,6 +62,7 @@ ObjectTable::ObjectTable() {
   stockBrush_ = AddStock(Brush{RGB(255, 255, 255), -1});
   // The default bitmap of every memory DC: 1x1, monochrome, black.
   stockBitmap_ = AddStock(Bitmap{1, 1, 1, {0x000000}, 0});
+  stockFont_ = AddStock(SystemFont());
 }
 
 Handle ObjectTable::AddStock(ObjectData data) {

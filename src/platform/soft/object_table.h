@@ -51,6 +51,7 @@ class ObjectTable {
   Handle StockPen() const { return stockPen_; }
   Handle StockBrush() const { return stockBrush_; }
   Handle StockBitmap() const { return stockBitmap_; }
+  Handle StockFont() const { return stockFont_; }
   std::mutex& Mutex() { return mutex_; }
 
  private:
@@ -68,6 +69,7 @@ class ObjectTable {
   Handle stockPen_ = 0;
   Handle stockBrush_ = 0;
   Handle stockBitmap_ = 0;
+  Handle stockFont_ = 0;
   std::mutex mutex_;
 };
 

@@ -1,7 +1,9 @@
 #pragma once
-// What softgdi's handles stand for: device contexts, bitmaps, brushes and pens.
+// What softgdi's handles stand for: device contexts, bitmaps, brushes, pens
+// and fonts.
 
 #include <cstdint>
+#include <memory>
 #include <variant>
 #include <vector>
 
@@ -20,8 +22,10 @@ struct DeviceContext {
   Handle pen = 0;
   Handle brush = 0;
   Handle bitmap = 0;  // 0 on the screen
+  Handle font = 0;
   int bkMode = OPAQUE;
   COLORREF bkColor = RGB(255, 255, 255);
+  COLORREF textColor = RGB(0, 0, 0);
   POINT position{0, 0};
   POINT brushOrigin{0, 0};
 };
@@ -49,6 +53,16 @@ struct Pen {
   COLORREF color = 0;
 };
 
-using ObjectData = std::variant<std::monostate, DeviceContext, Bitmap, Brush, Pen>;
+namespace text {
+class RealizedFont;
+}
+
+// A logical font, made real (face, size, glyphs) when first drawn or measured.
+struct Font {
+  LOGFONTA logFont{};
+  std::shared_ptr<text::RealizedFont> realized;
+};
+
+using ObjectData = std::variant<std::monostate, DeviceContext, Bitmap, Brush, Pen, Font>;
 
 }  // namespace vorlex::gdi::soft

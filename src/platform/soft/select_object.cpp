@@ -1,4 +1,5 @@
-// SelectObject: a DC holds one pen, one brush and one bitmap at a time.
+// SelectObject: a DC holds one pen, one brush, one bitmap and one font at a
+// time.
 
 #include <utility>
 
@@ -11,6 +12,7 @@ namespace {
 using soft::Bitmap;
 using soft::Brush;
 using soft::DeviceContext;
+using soft::Font;
 using soft::Handle;
 using soft::Pen;
 using soft::Slot;
@@ -20,6 +22,7 @@ Handle* FieldFor(DeviceContext& dc, const soft::ObjectData& data) {
   if (std::holds_alternative<Pen>(data)) return &dc.pen;
   if (std::holds_alternative<Brush>(data)) return &dc.brush;
   if (std::holds_alternative<Bitmap>(data)) return &dc.bitmap;
+  if (std::holds_alternative<Font>(data)) return &dc.font;
   return nullptr;
 }
 

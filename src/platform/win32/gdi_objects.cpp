@@ -1,5 +1,6 @@
-// Device contexts, bitmaps, brushes, pens and attributes forwarded to gdi32 and
-// user32. The seam's handle types name the same objects as the Win32 ones.
+// Device contexts, bitmaps, brushes, pens, fonts and attributes forwarded to
+// gdi32 and user32. The seam's handle types name the same objects as the Win32
+// ones.
 #include "platform/gdi.h"
 // After the seam: <windows.h> defines macros with the names the seam declares.
 #define WIN32_LEAN_AND_MEAN
@@ -9,6 +10,8 @@
 #include <windows.h>
 
 #include <atomic>
+
+#include "platform/win32/wide_text.h"
 
 namespace vorlex::gdi {
 
@@ -62,6 +65,12 @@ HBRUSH CreateHatchBrush(int style, COLORREF color) {
 
 HPEN CreatePen(int style, int width, COLORREF color) {
   return Counted(reinterpret_cast<HPEN>(::CreatePen(style, width, color)));
+}
+
+HFONT CreateFontIndirectA(const LOGFONTA* font) {
+  if (font == nullptr) return nullptr;
+  const ::LOGFONTW wide = win32::WideLogFont(*font);
+  return Counted(reinterpret_cast<HFONT>(::CreateFontIndirectW(&wide)));
 }
 
 int SetBkMode(HDC dc, int mode) { return ::SetBkMode(reinterpret_cast<::HDC>(dc), mode); }
