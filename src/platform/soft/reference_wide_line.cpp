@@ -6,24 +6,10 @@
 #include "platform/soft/box.h"
 #include "platform/soft/elliptic_region.h"
 #include "platform/soft/reference.h"
+#include "platform/soft/wide_pen_shape.h"
 
 namespace vorlex::gdi::soft::reference {
 namespace {
-
-struct Corner {
-  int64_t x;
-  int64_t y;
-};
-
-// Doubles to integers, clamped far inside int64 so no conversion overflows;
-// any value past the clamp is far off every surface anyway.
-constexpr double kCoordinateClamp = 4.0e18;
-
-int64_t ToCoordinate(double value) {
-  return static_cast<int64_t>(std::clamp(value, -kCoordinateClamp, kCoordinateClamp));
-}
-int64_t RoundHalfUp(double value) { return ToCoordinate(std::floor(value + 0.5)); }
-int64_t Ceil(double value) { return ToCoordinate(std::ceil(value)); }
 
 void PaintCap(const Surface& surface, int64_t x, int64_t y, int64_t width, const SolidPaint& paint) {
   const int64_t left = x - width / 2;
@@ -70,23 +56,7 @@ void FillPolygon(const Surface& surface, const std::array<Corner, 4>& corners, c
 }
 
 void PaintSlantedBody(const Surface& surface, Corner p0, Corner p1, int64_t width, const SolidPaint& paint) {
-  const double dx = static_cast<double>(p1.x - p0.x);
-  const double dy = static_cast<double>(p1.y - p0.y);
-  const double length = std::hypot(dx, dy);
-  const double w = static_cast<double>(width);
-  // How far the pen reaches across the line, horizontally and vertically.
-  const double extentX = w * std::fabs(dy) / length;
-  const double extentY = w * std::fabs(dx) / length;
-  // The right side (larger x) gets the larger half; it lies above a line
-  // running down-right or up-left and below any other.
-  const int64_t rightDown = (dx > 0) == (dy > 0) ? -1 : 1;
-  const Corner right{RoundHalfUp((extentX + 1) / 2), rightDown * RoundHalfUp((extentY + 1) / 2)};
-  const Corner left{-RoundHalfUp(extentX / 2), -rightDown * RoundHalfUp(extentY / 2)};
-  const std::array<Corner, 4> corners{{{p0.x + left.x, p0.y + left.y},
-                                       {p0.x + right.x, p0.y + right.y},
-                                       {p1.x + right.x, p1.y + right.y},
-                                       {p1.x + left.x, p1.y + left.y}}};
-  FillPolygon(surface, corners, paint);
+  FillPolygon(surface, SlantedBodyQuad(p0, p1, width), paint);
 }
 
 void PaintBody(const Surface& surface, Corner p0, Corner p1, int64_t width, const SolidPaint& paint) {
