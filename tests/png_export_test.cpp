@@ -27,9 +27,7 @@ gdi::Pixels ReadPng(const std::string& path) {
   return out;
 }
 
-std::string TempPath(const char* name) {
-  return (std::filesystem::temp_directory_path() / name).string();
-}
+std::string TempPath(const char* name) { return (std::filesystem::temp_directory_path() / name).string(); }
 }  // namespace
 
 TEST(PngExport, WritesEveryPixelAsRgb) {

@@ -174,7 +174,7 @@ TEST(ControlTimers, TimeTimerRedrawsThenRaisesTimerTime) {
   site.ClearRecords();
   control.put_TimerTimeInterval(200);
   control.put_TimerTimeEnabled(VARIANT_TRUE);
-  site.Clock().Advance(400);
+  site.TimerClock().Advance(400);
   EXPECT_EQ(site.RaisedEvents(), (std::vector<std::string>{"TimerTime", "TimerTime"}));
   EXPECT_EQ(sink.seen, (std::vector<int>{1, 2}));
 }
@@ -187,7 +187,7 @@ TEST(ControlTimers, DiskTimerRedrawsThenRaisesTimerDisk) {
   control.InitProperties();
   site.ClearRecords();
   control.put_TimerDiskEnabled(VARIANT_TRUE);
-  site.Clock().Advance(60000);
+  site.TimerClock().Advance(60000);
   EXPECT_EQ(site.RaisedEvents(), std::vector<std::string>{"TimerDisk"});
   EXPECT_EQ(sink.seen, std::vector<int>{1});
 }
@@ -198,9 +198,9 @@ TEST(ControlTimers, DisablingStopsTheTicks) {
   control.InitProperties();
   control.put_TimerTimeEnabled(VARIANT_TRUE);
   control.put_TimerTimeEnabled(VARIANT_FALSE);
-  site.Clock().Advance(5000);
+  site.TimerClock().Advance(5000);
   EXPECT_TRUE(site.RaisedEvents().empty());
-  EXPECT_EQ(site.Clock().ActiveTimers(), 0u);
+  EXPECT_EQ(site.TimerClock().ActiveTimers(), 0u);
 }
 
 TEST(ControlTimers, DestructionStopsBothTimersAndNoTickArrivesAfterwards) {
@@ -210,11 +210,11 @@ TEST(ControlTimers, DestructionStopsBothTimersAndNoTickArrivesAfterwards) {
     control.InitProperties();
     control.put_TimerTimeEnabled(VARIANT_TRUE);
     control.put_TimerDiskEnabled(VARIANT_TRUE);
-    EXPECT_EQ(site.Clock().ActiveTimers(), 2u);
+    EXPECT_EQ(site.TimerClock().ActiveTimers(), 2u);
   }
-  EXPECT_EQ(site.Clock().ActiveTimers(), 0u);
+  EXPECT_EQ(site.TimerClock().ActiveTimers(), 0u);
   site.ClearRecords();
-  site.Clock().Advance(120000);
+  site.TimerClock().Advance(120000);
   EXPECT_TRUE(site.RaisedEvents().empty());
 }
 
@@ -222,5 +222,5 @@ TEST(ControlTimers, DefaultsArmNothing) {
   HeadlessSite site;
   Vorlex control(site);
   control.InitProperties();
-  EXPECT_EQ(site.Clock().ActiveTimers(), 0u);
+  EXPECT_EQ(site.TimerClock().ActiveTimers(), 0u);
 }

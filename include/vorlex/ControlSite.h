@@ -2,9 +2,12 @@
 // What a container provides to the control, and the sink its events go to.
 
 #include <cstdint>
+#include <functional>
 #include <string_view>
 
+#include "vorlex/ClockService.h"
 #include "vorlex/Color.h"
+#include "vorlex/DiskService.h"
 #include "vorlex/Font.h"
 #include "vorlex/Numeric.h"
 
@@ -61,6 +64,11 @@ class ControlSite {
 
   virtual VorlexEvents& Events() = 0;
   virtual TimerService& Timers() = 0;
+  virtual DiskService& Disks() = 0;
+  virtual const ClockService& Clock() const = 0;
+  // The control asks to hear when the container resizes it (its client size
+  // changes), as a window hears WM_SIZE. An empty listener stops that.
+  virtual void SetResizeListener(std::function<void()> listener) = 0;
 };
 
 }  // namespace vorlex

@@ -4,7 +4,9 @@
 // tool host the control in it.
 
 #include <cstdint>
+#include <functional>
 #include <map>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -36,18 +38,33 @@ class ManualTimers : public TimerService {
   uint64_t now_ = 0;
 };
 
+// The pixels of the memory window, top row first, each 0x00RRGGBB.
+struct WindowImage {
+  int width = 0;
+  int height = 0;
+  std::vector<uint32_t> pixels;
+  uint32_t At(int x, int y) const {
+    return pixels[static_cast<size_t>(y) * static_cast<size_t>(width) + static_cast<size_t>(x)];
+  }
+};
+
 class HeadlessSite : public ControlSite, public VorlexEvents {
  public:
   static constexpr int kDefaultWidth = 60;   // 900 twips
   static constexpr int kDefaultHeight = 21;  // 315 twips
 
   explicit HeadlessSite(int widthPixels = kDefaultWidth, int heightPixels = kDefaultHeight);
+  ~HeadlessSite() override;
+  HeadlessSite(const HeadlessSite&) = delete;
+  HeadlessSite& operator=(const HeadlessSite&) = delete;
 
   // Set-up.
   void SetUserMode(bool userMode) { userMode_ = userMode; }
   void SetAmbientFont(FontPtr font) { ambientFont_ = std::move(font); }
   void SetTwipsPerPixel(float x, float y);
   void SetClientSize(int widthPixels, int heightPixels);
+  void SetDisks(std::unique_ptr<DiskService> disks) { disks_ = std::move(disks); }
+  void SetClock(std::unique_ptr<ClockService> clock) { clock_ = std::move(clock); }
   // Events also go to this sink, if set.
   void ForwardEventsTo(VorlexEvents* sink) { forward_ = sink; }
 
@@ -56,7 +73,10 @@ class HeadlessSite : public ControlSite, public VorlexEvents {
   const std::vector<std::string>& RaisedEvents() const { return events_; }
   int Paints() const { return paints_; }
   void ClearRecords();
-  ManualTimers& Clock() { return timers_; }
+  ManualTimers& TimerClock() { return timers_; }
+  // What the window shows.
+  WindowImage Snapshot() const;
+  bool SaveWindowPng(const std::string& path, std::string* error) const;
 
   // ControlSite
   double ScaleWidth() const override { return width_; }
@@ -70,7 +90,7 @@ class HeadlessSite : public ControlSite, public VorlexEvents {
   bool AmbientUserMode() const override { return userMode_; }
   FontPtr AmbientFont() const override { return ambientFont_; }
   uintptr_t hWnd() const override { return hwnd_; }
-  uintptr_t hDC() const override { return 0; }
+  uintptr_t hDC() const override { return windowDC_; }
   OLE_COLOR BackColor() const override { return backColor_; }
   void SetBackColor(OLE_COLOR color) override { backColor_ = color; }
   OLE_COLOR ForeColor() const override { return foreColor_; }
@@ -83,6 +103,9 @@ class HeadlessSite : public ControlSite, public VorlexEvents {
   void BarPainted() override { ++paints_; }
   VorlexEvents& Events() override { return *this; }
   TimerService& Timers() override { return timers_; }
+  DiskService& Disks() override { return *disks_; }
+  const ClockService& Clock() const override { return *clock_; }
+  void SetResizeListener(std::function<void()> listener) override { resized_ = std::move(listener); }
 
   // VorlexEvents
   void BlockClicked(int16_t& iBlock) override;
@@ -108,6 +131,16 @@ class HeadlessSite : public ControlSite, public VorlexEvents {
   int paints_ = 0;
   ManualTimers timers_;
   VorlexEvents* forward_ = nullptr;
+  std::unique_ptr<DiskService> disks_;
+  std::unique_ptr<ClockService> clock_;
+  std::function<void()> resized_;
+  // The memory window: a context of the screen's format holding a bitmap of the client size.
+  void CreateWindowBitmap();
+  void ResizeWindow(int widthPixels, int heightPixels);
+  uintptr_t screenDC_ = 0;
+  uintptr_t windowDC_ = 0;
+  uintptr_t windowBitmap_ = 0;
+  uintptr_t previousBitmap_ = 0;
 };
 
 }  // namespace vorlex

@@ -220,6 +220,11 @@ class Vorlex {
 
   // Container notifications.
   void UserControl_Paint();
+  void UserControl_Resize();
+  // Mouse input from the window; a disabled control receives none.
+  void UserControl_MouseUp(int16_t Button, int16_t Shift, float X, float Y);
+  void UserControl_Click();
+  void UserControl_DblClick();
 
   struct Impl;
 

@@ -6,8 +6,19 @@ namespace vorlex {
 
 Vorlex::Impl::Impl(ControlSite& s) : site(s) {}
 
+void Vorlex::Impl::CreateSurface() {
+  offScreen = std::make_unique<OffScreenDC>();
+  auto hdc = reinterpret_cast<gdi::HDC>(site.hDC());
+  int32_t width = ToLong(site.ScaleWidth());
+  int32_t height = ToLong(site.ScaleHeight());
+  offScreen->ScreenTwipsPerPixelY = site.TwipsPerPixelY();
+  offScreen->Initialize(hdc, width, height);
+}
+
 Vorlex::Vorlex(ControlSite& site) : d(std::make_unique<Impl>(site)) {
   Impl& impl = *d;
+  impl.CreateSurface();
+  site.SetResizeListener([this] { UserControl_Resize(); });
   impl.timerTimeInformation = std::make_unique<clsTimer>(site.Timers(), [&impl] {
     impl.RedrawBar();
     impl.site.Events().TimerTime();
@@ -19,6 +30,8 @@ Vorlex::Vorlex(ControlSite& site) : d(std::make_unique<Impl>(site)) {
 }
 
 Vorlex::~Vorlex() {
+  d->site.SetResizeListener(nullptr);
+  d->offScreen.reset();
   for (auto* timer : {&d->timerTimeInformation, &d->timerDiskInformation}) {
     if (*timer && (*timer)->Enabled() != VARIANT_FALSE) (*timer)->SetEnabled(VARIANT_FALSE);
     timer->reset();
@@ -76,5 +89,8 @@ void Vorlex::InitProperties() {
 }
 
 void Vorlex::UserControl_Paint() { d->RedrawBar(); }
+
+// A resize only replaces the surface; the container's following paint draws.
+void Vorlex::UserControl_Resize() { d->CreateSurface(); }
 
 }  // namespace vorlex

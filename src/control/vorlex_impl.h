@@ -6,11 +6,15 @@
 #include <string_view>
 #include <vector>
 
+#include "compose/picture_holder.h"
 #include "compose/timer.h"
 #include "control/block_definition.h"
+#include "surface/offscreen_dc.h"
 #include "vorlex/Vorlex.h"
 
 namespace vorlex {
+
+struct Layout;
 
 // An explicitly omitted block argument means what its default means.
 inline Variant EffectiveBlockArgument(const Variant& iBlock) { return iBlock.IsMissing() ? DefaultBlock() : iBlock; }
@@ -69,11 +73,25 @@ struct Vorlex::Impl {
   float hUnitSize = 0;
   float vUnitSize = 0;
 
+  std::unique_ptr<OffScreenDC> offScreen;
+  PictureHolder picture1;
+
   std::unique_ptr<clsTimer> timerTimeInformation;
   std::unique_ptr<clsTimer> timerDiskInformation;
 
-  // The one redraw routine.
+  // The one redraw routine and its steps.
   void RedrawBar();
+  OLE_COLOR Shown(OLE_COLOR color) const;
+  void AutoSizeToPicture(int16_t border);
+  void PaintBackground(const Layout& layout);
+  void PaintBorder(const Layout& layout);
+  void PaintCaption();
+  void PaintPicture(const PicturePtr& shown, int16_t offset, int32_t tile, int32_t alignment);
+  void PaintBlocks(const Layout& layout);
+  void PaintBlock(BlockDefinition& block, VARIANT_BOOL pass, const Layout& layout, gdi::RECT& rect);
+  void PaintBlockShape(const BlockDefinition& block);
+  // A new surface of the control's current size.
+  void CreateSurface();
 
   // Block argument to element number: a number (-1 for IndexBlock) or a key.
   int16_t ResolveBlockIndex(const Variant& iBlock) const;
@@ -95,6 +113,9 @@ struct Vorlex::Impl {
     block.*field = NarrowToInteger(value);
     RedrawBar();
   }
+
+  // The block under a mouse release, or -1.
+  int16_t HitTest(float x, float y) const;
 
   void AddBlock();
   void DeleteBlock(const Variant& iBlock);
