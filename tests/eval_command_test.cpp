@@ -298,7 +298,7 @@ TEST(EvalResultText, ObjectWithoutADefaultPropertyRaises438) {
 // The control eval works on.
 
 TEST(EvalSource, NewControlIs900By315TwipsInUserMode) {
-  const PlacedControl placed = PlaceNewControl(Options{});
+  const PlacedControl placed = PlaceControl(Options{});
   EXPECT_EQ(placed.site->ScaleWidth(), 60);
   EXPECT_EQ(placed.site->ScaleHeight(), 21);
   EXPECT_EQ(placed.site->OuterWidthTwips(), 900);
@@ -313,7 +313,7 @@ TEST(EvalSource, SizeAndDesignModeAreApplied) {
   options.widthPixels = 200;
   options.heightPixels = 30;
   options.design = true;
-  const PlacedControl placed = PlaceNewControl(options);
+  const PlacedControl placed = PlaceControl(options);
   EXPECT_EQ(placed.site->ScaleWidth(), 200);
   EXPECT_EQ(placed.site->ScaleHeight(), 30);
   EXPECT_FALSE(placed.site->AmbientUserMode());
@@ -375,12 +375,13 @@ TEST(EvalOptions, UsageNamesTheValuesAStatementTakes) {
   EXPECT_NE(UsageText().find("Nothing"), std::string::npos);
 }
 
-TEST(EvalOptions, NewControlDefaultsTo60By21InUserMode) {
+TEST(EvalOptions, NewControlLeavesTheSizeToTheSourceInUserMode) {
   const Options options = ParseOptions({"eval", "--new", "-e", "Blocks"});
   EXPECT_EQ(options.command, "eval");
+  EXPECT_EQ(options.source, SourceKind::New);
   EXPECT_FALSE(options.help);
-  EXPECT_EQ(options.widthPixels, 60);
-  EXPECT_EQ(options.heightPixels, 21);
+  EXPECT_FALSE(options.widthPixels.has_value());
+  EXPECT_FALSE(options.heightPixels.has_value());
   EXPECT_FALSE(options.design);
   EXPECT_EQ(options.statements, std::vector<std::string>{"Blocks"});
 }
@@ -420,24 +421,17 @@ TEST(EvalOptions, OptionWithoutItsValueIsBadUsage) {
 }
 
 TEST(EvalOptions, EvalNeedsASourceAndAStatement) {
-  EXPECT_EQ(UsageProblem({"eval", "-e", "Blocks"}), "eval needs a SOURCE: --new");
+  EXPECT_EQ(UsageProblem({"eval", "-e", "Blocks"}), "eval needs a SOURCE: a form file, --demo or --new");
   EXPECT_EQ(UsageProblem({"eval", "--new"}), "eval needs at least one -e STATEMENT");
-  EXPECT_EQ(UsageProblem({"eval", "--new", "--new", "-e", "Blocks"}), "more than one SOURCE given");
+  EXPECT_EQ(UsageProblem({"eval", "--new", "--demo", "-e", "Blocks"}), "more than one SOURCE given");
 }
 
 TEST(EvalOptions, FormFileSourceIsNotSupportedYet) {
   EXPECT_EQ(UsageProblem({"eval", "forms/gauge.frm", "-e", "Blocks"}),
-            "forms/gauge.frm: form files are not supported by this build yet (use --new)");
+            "forms/gauge.frm: form files are not supported by this build yet (use --new or --demo)");
 }
 
-TEST(EvalOptions, DemoSourceIsNotSupportedYet) {
-  EXPECT_EQ(UsageProblem({"eval", "--demo", "-e", "Blocks"}),
-            "--demo: the built-in demo form is not supported by this build yet");
-}
-
-TEST(EvalOptions, OtherCommandsAreNotAvailableYet) {
-  EXPECT_EQ(UsageProblem({"render", "--new"}), "the render command is not available in this build yet");
-  EXPECT_EQ(UsageProblem({"click", "--new", "1", "2"}), "the click command is not available in this build yet");
+TEST(EvalOptions, SaveIsNotAvailableYet) {
   EXPECT_EQ(UsageProblem({"save", "--new"}), "the save command is not available in this build yet");
 }
 
@@ -493,13 +487,13 @@ TEST(EvalCommandLine, NoArgumentsPrintUsageAndExit2) {
   const CommandResult r = RunTool({});
   EXPECT_EQ(r.status, 2);
   EXPECT_EQ(r.out, "");
-  EXPECT_EQ(r.err.rfind("usage: vorlex eval --new", 0), 0u) << r.err;
+  EXPECT_EQ(r.err.rfind("usage: vorlex render SOURCE", 0), 0u) << r.err;
 }
 
 TEST(EvalCommandLine, UnknownOptionPrintsTheProblemThenUsageAndExits2) {
   const CommandResult r = RunTool({"eval", "--new", "--bogus"});
   EXPECT_EQ(r.status, 2);
-  EXPECT_EQ(r.err.rfind("vorlex: unknown option \"--bogus\"\nusage: vorlex eval", 0), 0u) << r.err;
+  EXPECT_EQ(r.err.rfind("vorlex: unknown option \"--bogus\"\nusage: vorlex render", 0), 0u) << r.err;
 }
 
 TEST(EvalCommandLine, StatementThatDoesNotReadExits2WithOneLineQuotingIt) {
@@ -510,9 +504,9 @@ TEST(EvalCommandLine, StatementThatDoesNotReadExits2WithOneLineQuotingIt) {
 }
 
 TEST(EvalCommandLine, UnavailableCommandExits2WithOneLine) {
-  const CommandResult r = RunTool({"render", "--new", "-o", "out.png"});
+  const CommandResult r = RunTool({"save", "--new", "-o", "out.frm"});
   EXPECT_EQ(r.status, 2);
-  EXPECT_EQ(r.err, "vorlex: the render command is not available in this build yet\n");
+  EXPECT_EQ(r.err, "vorlex: the save command is not available in this build yet\n");
 }
 
 TEST(EvalCommandLine, FormFileExits2WithOneLineNamingIt) {
@@ -532,6 +526,6 @@ TEST(EvalCommandLine, BadSizeExits2WithOneLine) {
 TEST(EvalCommandLine, HelpPrintsUsageOnStandardOutputAndExits0) {
   const CommandResult r = RunTool({"--help"});
   EXPECT_EQ(r.status, 0);
-  EXPECT_EQ(r.out.rfind("usage: vorlex eval", 0), 0u);
+  EXPECT_EQ(r.out.rfind("usage: vorlex render", 0), 0u);
   EXPECT_EQ(r.err, "");
 }

@@ -4,6 +4,7 @@
 
 #include "eval_command.h"
 #include "options.h"
+#include "render_command.h"
 
 namespace vorlex::cli {
 
@@ -20,6 +21,8 @@ int RunCommandLine(const std::vector<std::string>& args, std::ostream& out, std:
     out << UsageText();
     return 0;
   }
+  if (options.command == "render") return RunRender(options, out, err);
+  if (options.command == "click") return RunClick(options, out, err);
   return RunEval(options, out, err);
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 // The vorlex tool as a function of its arguments: what it writes and its exit
-// status (0 success, 2 bad usage).
+// status (0 success, 1 an automation error in render or click, 2 bad usage
+// or an unwritable file).
 
 #include <ostream>
 #include <string>

@@ -8,6 +8,7 @@
 #include "dispatch.h"
 #include "result_text.h"
 #include "source.h"
+#include "statement_list.h"
 #include "vorlex/AutomationError.h"
 
 namespace vorlex::cli {
@@ -25,16 +26,9 @@ void EvalStatements(Vorlex& control, const std::vector<Statement>& statements, s
 
 int RunEval(const Options& options, std::ostream& out, std::ostream& err) {
   std::vector<Statement> statements;
-  for (const std::string& text : options.statements) {
-    try {
-      statements.push_back(ParseStatement(text));
-    } catch (const SyntaxError& error) {
-      err << "vorlex: cannot read statement \"" << text << "\": " << error.what() << '\n';
-      return 2;
-    }
-  }
+  if (!ReadStatements(options.statements, statements, err)) return 2;
 
-  const PlacedControl placed = PlaceNewControl(options);
+  const PlacedControl placed = PlaceControl(options);
   EvalStatements(*placed.control, statements, out);
   return 0;
 }

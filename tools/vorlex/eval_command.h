@@ -17,7 +17,7 @@ void EvalStatements(Vorlex& control, const std::vector<Statement>& statements, s
 
 // The whole command: reads every statement first (one that does not parse is
 // bad usage: a one-line message on err, nothing run, status 2), then places a
-// new control (PlaceNewControl) and runs them.
+// control of the source (PlaceControl) and runs them.
 // Returns the exit status: 0, or 2 for a statement that does not parse.
 int RunEval(const Options& options, std::ostream& out, std::ostream& err);
 

@@ -1,6 +1,6 @@
 #pragma once
-// The control a command works on, placed in a headless container. Only --new
-// so far: a freshly placed control with its defaults.
+// The control a command works on, placed in a headless container: a freshly
+// placed control (--new) or the built-in demo (--demo).
 
 #include <memory>
 
@@ -15,9 +15,10 @@ struct PlacedControl {
   std::unique_ptr<Vorlex> control;  // declared after site: goes first
 };
 
-// A new control in a container of the requested client size (60 x 21 pixels,
-// 900 x 315 twips, by default), in user mode unless options.design, after
-// InitProperties.
-PlacedControl PlaceNewControl(const Options& options);
+// The control of options' source in a container of the requested client size
+// (or the source's own: 60 x 21 pixels, 900 x 315 twips, for --new), in user
+// mode unless options.design, with the clock stopped at options.now when given
+// and the drive letters of options.drives.
+PlacedControl PlaceControl(const Options& options);
 
 }  // namespace vorlex::cli
