@@ -18,9 +18,10 @@ class DiskService {
                                  int32_t& numberOfFreeClusters, int32_t& totalNumberOfClusters) = 0;
 };
 
-// The platform's disks. On Windows drive letters are the system's; elsewhere
+// The platform's disks. On Windows drive letters are the system's, except that
+// a letter the map names reports the volume holding its folder; elsewhere
 // each letter (upper case) maps to a mount path, "C" to "/" unless the map
-// says otherwise; unmapped letters fail.
+// says otherwise, and unmapped letters fail.
 std::unique_ptr<DiskService> SystemDisks(const std::map<char, std::string>& driveMap = {});
 
 }  // namespace vorlex

@@ -61,6 +61,21 @@ TEST(SystemDisks, DriveCHasAGeometry) {
   EXPECT_LE(Bits(g.freeClusters), Bits(g.totalClusters));
 }
 
+// A mapped letter reports the volume of its folder: here Q, which no system
+// drive has, reports drive C's volume through C's Windows folder.
+TEST(SystemDisks, AMappedLetterReportsTheVolumeOfItsFolder) {
+  Geometry unmapped;
+  EXPECT_FALSE(Ask(*SystemDisks(), "Q:\\", unmapped));
+  const auto disks = SystemDisks({{'q', "C:\\windows"}});
+  Geometry q;
+  Geometry c;
+  ASSERT_TRUE(Ask(*disks, "Q:\\", q));
+  ASSERT_TRUE(Ask(*disks, "C:\\", c));
+  EXPECT_EQ(q.sectorsPerCluster, c.sectorsPerCluster);
+  EXPECT_EQ(q.bytesPerSector, c.bytesPerSector);
+  EXPECT_EQ(q.totalClusters, c.totalClusters);
+}
+
 #else
 
 namespace {
