@@ -10,17 +10,22 @@ cd "$repo"
 filter="${1:-.}"
 min_time="${VORLEX_BENCH_MIN_TIME:-0.2}"
 
+benches=(surface_bench redraw_bench)
 cmake --preset native >/dev/null
-cmake --build build/native --target surface_bench control_bench >/dev/null
+cmake --build build/native --target "${benches[@]}" control_bench >/dev/null
 cmake --preset win64 >/dev/null
-cmake --build build/win64 --target surface_bench >/dev/null
+cmake --build build/win64 --target "${benches[@]}" >/dev/null
 
 out="$repo/build/bench"
 mkdir -p "$out"
-build/native/bench/surface_bench --benchmark_filter="$filter" --benchmark_min_time="$min_time" \
-  --benchmark_format=csv >"$out/native.csv" 2>/dev/null
-scripts/wine-run.sh build/win64/bench/surface_bench.exe --benchmark_filter="$filter" \
-  --benchmark_min_time="$min_time" --benchmark_format=csv >"$out/wine.csv" 2>/dev/null
+: >"$out/native.csv"
+: >"$out/wine.csv"
+for bench in "${benches[@]}"; do
+  "build/native/bench/$bench" --benchmark_filter="$filter" --benchmark_min_time="$min_time" \
+    --benchmark_format=csv >>"$out/native.csv" 2>/dev/null
+  scripts/wine-run.sh "build/win64/bench/$bench.exe" --benchmark_filter="$filter" \
+    --benchmark_min_time="$min_time" --benchmark_format=csv >>"$out/wine.csv" 2>/dev/null
+done
 
 # name,iterations,real_time,cpu_time,time_unit,...: CPU time in nanoseconds by name.
 to_ns() {
@@ -28,7 +33,7 @@ to_ns() {
     gsub(/"/, "", $1); f = ($5 == "us") ? 1e3 : (($5 == "ms") ? 1e6 : (($5 == "s") ? 1e9 : 1));
     printf "%s %.1f\n", $1, $4 * f }'
 }
-printf '%-28s %14s %14s %8s\n' benchmark "softgdi ns" "Wine GDI ns" ratio
+printf '%-44s %14s %14s %8s\n' benchmark "softgdi ns" "Wine GDI ns" ratio
 join <(to_ns "$out/native.csv" | sort) <(to_ns "$out/wine.csv" | sort) |
-  awk '{ printf "%-28s %14.1f %14.1f %8.2f\n", $1, $2, $3, ($2 > 0 ? $3 / $2 : 0) }'
+  awk '{ printf "%-44s %14.1f %14.1f %8.2f\n", $1, $2, $3, ($2 > 0 ? $3 / $2 : 0) }'
 echo "(ratio = Wine / softgdi; above 1 means softgdi is faster)"
