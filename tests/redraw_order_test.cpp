@@ -8,6 +8,7 @@
 #include <memory>
 #include <vector>
 
+#include "solid_bmp.h"
 #include "vorlex/Font.h"
 #include "vorlex/HeadlessSite.h"
 #include "vorlex/Picture.h"
@@ -22,33 +23,6 @@ constexpr uint32_t kBlackPixel = 0x000000;
 constexpr uint32_t kBluePixel = 0x0000FF;
 constexpr uint32_t kGreenPixel = 0x00FF00;
 constexpr uint32_t kRedPixel = 0xFF0000;
-
-// A bottom-up 32-bit BMP of one colour (0x00RRGGBB).
-std::vector<uint8_t> SolidBmp(int32_t width, int32_t height, uint32_t rgb) {
-  std::vector<uint8_t> bytes;
-  const auto put = [&bytes](uint32_t value, int size) {
-    for (int i = 0; i < size; ++i) bytes.push_back(static_cast<uint8_t>(value >> (8 * i)));
-  };
-  const auto pixelBytes = static_cast<uint32_t>(width * height * 4);
-  bytes.push_back('B');
-  bytes.push_back('M');
-  put(54 + pixelBytes, 4);
-  put(0, 4);
-  put(54, 4);
-  put(40, 4);
-  put(static_cast<uint32_t>(width), 4);
-  put(static_cast<uint32_t>(height), 4);
-  put(1, 2);
-  put(32, 2);
-  put(0, 4);
-  put(pixelBytes, 4);
-  put(2835, 4);
-  put(2835, 4);
-  put(0, 4);
-  put(0, 4);
-  for (int32_t i = 0; i < width * height; ++i) put(rgb, 4);  // B, G, R, 0 in the file
-  return bytes;
-}
 
 // 200 x 100 pixels, white, two pixels a unit across; a wide black caption across
 // the middle; a 40 x 100 blue picture in the centre; block 1 red and on top over
@@ -66,7 +40,7 @@ class PaintingOrder : public ::testing::Test {
     font->SetBold(true);
     control.putref_Font(font);
     control.put_Caption("MMMMMMMMMMMMMMMM");
-    const std::vector<uint8_t> bmp = SolidBmp(40, 100, kBluePixel);
+    const std::vector<uint8_t> bmp = vorlex::testing::SolidBmp(40, 100, kBluePixel);
     control.putref_Picture(LoadPictureFromMemory(bmp.data(), bmp.size()));
     control.put_PictureAlignment(vxCenterCenter);
     AddBlock(50, 52, kRedPixel);

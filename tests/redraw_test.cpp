@@ -4,7 +4,9 @@
 
 #include "error_matchers.h"
 #include "fake_services.h"
+#include "solid_bmp.h"
 #include "vorlex/HeadlessSite.h"
+#include "vorlex/Picture.h"
 #include "vorlex/Vorlex.h"
 
 using namespace vorlex;
@@ -191,4 +193,29 @@ TEST_F(RedrawTest, TheUnitSizesOfTheLastRedrawStay) {
   // 2 pixels a unit both ways; the hit test measures down from a fixed 100.
   control->UserControl_MouseUp(1, 0, 30.0f, 160.0f);
   EXPECT_EQ(site.RaisedEvents(), std::vector<std::string>{"BlockClicked 1"});
+}
+
+// The outer size is (picture + 2 x border) x 15 twips; the container's resize
+// then gives the client that size in pixels.
+TEST_F(RedrawTest, PictureAutoSizeResizesTheControlToThePicture) {
+  const std::vector<uint8_t> bmp = SolidBmp(40, 30, 0x0000FF);
+  control->put_BorderStyle(vxFlat);
+  control->put_BorderWidth(2);
+  control->putref_Picture(LoadPictureFromMemory(bmp.data(), bmp.size()));
+  control->put_PictureAutoSize(vxBothAutoSize);
+  EXPECT_EQ(site.OuterWidthTwips(), 660);
+  EXPECT_EQ(site.OuterHeightTwips(), 510);
+  const WindowImage w = Paint();
+  EXPECT_EQ(w.width, 44);
+  EXPECT_EQ(w.height, 34);
+  EXPECT_EQ(w.At(2, 2), kBluePixel);  // the picture fills the inner rectangle
+  EXPECT_EQ(w.At(41, 31), kBluePixel);
+}
+
+TEST_F(RedrawTest, PictureAutoSizeOfWidthLeavesTheHeight) {
+  const std::vector<uint8_t> bmp = SolidBmp(40, 30, 0x0000FF);
+  control->putref_Picture(LoadPictureFromMemory(bmp.data(), bmp.size()));
+  control->put_PictureAutoSize(vxWidthAutoSize);
+  EXPECT_EQ(site.OuterWidthTwips(), 600);
+  EXPECT_EQ(site.OuterHeightTwips(), 750);
 }
