@@ -83,7 +83,6 @@ void BM_RedrawDashboardAtSize(benchmark::State& state) {
   control.InitProperties();
   vorlex::bench::BuildDashboard(control);
   for (auto _ : state) control.Refresh();
-  state.counters["pixels"] = static_cast<double>(state.range(0) * state.range(1));
 }
 BENCHMARK(BM_RedrawDashboardAtSize)
     ->Args({400, 32})
@@ -123,7 +122,6 @@ void BM_ExpandTwoHundredCharactersTenTokens(benchmark::State& state) {
     vorlex::LiveTextContext context{disks, *clock, block, 100, 100};
     benchmark::DoNotOptimize(vorlex::ExpandLiveText(text, context));
   }
-  state.counters["chars"] = static_cast<double>(text.size());
 }
 BENCHMARK(BM_ExpandTwoHundredCharactersTenTokens)->Unit(benchmark::kMicrosecond);
 

@@ -21,6 +21,8 @@ mkdir -p "$out"
 : >"$out/native.csv"
 : >"$out/wine.csv"
 for bench in "${benches[@]}"; do
+  # A filter may match nothing in one of them.
+  [[ -n "$("build/native/bench/$bench" --benchmark_list_tests --benchmark_filter="$filter" 2>/dev/null)" ]] || continue
   "build/native/bench/$bench" --benchmark_filter="$filter" --benchmark_min_time="$min_time" \
     --benchmark_format=csv >>"$out/native.csv" 2>/dev/null
   scripts/wine-run.sh "build/win64/bench/$bench.exe" --benchmark_filter="$filter" \

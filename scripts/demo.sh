@@ -14,33 +14,10 @@ repo="$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)"
 cd "$repo"
 out="${1:-build/demo/demo.png}"
 
-missing=()
-command -v cmake >/dev/null 2>&1 || missing+=(cmake)
-command -v ninja >/dev/null 2>&1 || missing+=(ninja-build)
-command -v g++ >/dev/null 2>&1 || missing+=(g++)
-[[ -f /usr/include/png.h ]] || missing+=(libpng-dev)
-[[ -f /usr/include/freetype2/ft2build.h ]] || missing+=(libfreetype-dev)
-[[ -f /usr/include/fontconfig/fontconfig.h ]] || missing+=(libfontconfig-dev)
-[[ -f /usr/share/wine/fonts/sserife.fon ]] || missing+=(fonts-wine)
-[[ -f /usr/share/fonts/truetype/dejavu/DejaVuSans.ttf ]] || missing+=(fonts-dejavu-core)
-[[ -f /usr/include/jpeglib.h ]] || missing+=(libjpeg-dev)
-[[ -f /usr/include/gif_lib.h ]] || missing+=(libgif-dev)
-if ((${#missing[@]})); then
-  echo "== installing: ${missing[*]}" >&2
-  sudo=()
-  if [[ $(id -u) -ne 0 ]]; then
-    command -v sudo >/dev/null 2>&1 || { echo "error: ${missing[*]} missing and not running as root" >&2; exit 1; }
-    sudo=(sudo)
-  fi
-  mkdir -p build
-  if ! { "${sudo[@]}" apt-get update -q &&
-         "${sudo[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -q "${missing[@]}"; } \
-       >build/apt-demo.log 2>&1 </dev/null; then
-    tail -n 40 build/apt-demo.log >&2
-    echo "error: apt-get could not install ${missing[*]} (log: build/apt-demo.log)" >&2
-    exit 1
-  fi
-fi
+# shellcheck source=apt-needs.sh
+source "$repo/scripts/apt-needs.sh"
+need_build_packages
+install_needed "$repo/build/apt-demo.log"
 
 # Only the tool: no test suites, no benchmarks.
 echo "== building the vorlex tool" >&2

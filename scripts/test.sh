@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Sets up a Debian machine, builds every preset and runs the test suites:
 #   native, native-asan   ctest
-#   fuzz                  the picture fuzz targets (clang, libFuzzer), a few seconds each
+#   fuzz                  the fuzz targets (pictures, form text, .frx records; clang, libFuzzer), a few seconds each
 #   win64                 ctest, every test executable under Wine
 #   win32                 built and linked; run only when a 32-bit Wine works
 # Ends with one line "N passed, N failed" (test cases over every suite that ran;
@@ -22,24 +22,15 @@ cd "$repo"
 # ---------------------------------------------------------------------------
 # Set-up: install only what is missing.
 
-missing=()
-command -v cmake >/dev/null 2>&1 || missing+=(cmake)
-command -v ninja >/dev/null 2>&1 || missing+=(ninja-build)
-command -v g++ >/dev/null 2>&1 || missing+=(g++)
-[[ -f /usr/src/googletest/CMakeLists.txt ]] || missing+=(googletest)
-[[ -f /usr/include/benchmark/benchmark.h ]] || missing+=(libbenchmark-dev)
-[[ -f /usr/include/png.h ]] || missing+=(libpng-dev)
-# softgdi's text: FreeType, fontconfig, Wine's MS Sans Serif and a sans fallback.
-[[ -f /usr/include/freetype2/ft2build.h ]] || missing+=(libfreetype-dev)
-[[ -f /usr/include/fontconfig/fontconfig.h ]] || missing+=(libfontconfig-dev)
-[[ -f /usr/share/wine/fonts/sserife.fon ]] || missing+=(fonts-wine)
-[[ -f /usr/share/fonts/truetype/dejavu/DejaVuSans.ttf ]] || missing+=(fonts-dejavu-core)
-[[ -f /usr/include/jpeglib.h ]] || missing+=(libjpeg-dev)
-[[ -f /usr/include/gif_lib.h ]] || missing+=(libgif-dev)
-command -v x86_64-w64-mingw32-g++-posix >/dev/null 2>&1 || missing+=(g++-mingw-w64-x86-64)
-command -v i686-w64-mingw32-g++-posix >/dev/null 2>&1 || missing+=(g++-mingw-w64-i686)
-[[ -x /usr/lib/wine/wine64 ]] || command -v wine64 >/dev/null 2>&1 || missing+=(wine64)
-[[ -x /usr/bin/wine ]] || missing+=(wine)
+# shellcheck source=apt-needs.sh
+source "$repo/scripts/apt-needs.sh"
+need_build_packages
+need_file /usr/src/googletest/CMakeLists.txt googletest
+need_file /usr/include/benchmark/benchmark.h libbenchmark-dev
+need_command x86_64-w64-mingw32-g++-posix g++-mingw-w64-x86-64
+need_command i686-w64-mingw32-g++-posix g++-mingw-w64-i686
+[[ -x /usr/lib/wine/wine64 ]] || need_command wine64 wine64
+need_file /usr/bin/wine wine
 
 # libFuzzer for the fuzz targets, when clang is there: Debian ships it in the
 # runtime package of clang's version (libclang-rt-14-dev for clang 14).
@@ -53,27 +44,7 @@ if [[ -n "$clang_major" ]] && ! fuzzer_links; then
   missing+=("libclang-rt-$clang_major-dev")
 fi
 
-if ((${#missing[@]})); then
-  echo "== installing: ${missing[*]}"
-  sudo=()
-  if [[ $(id -u) -ne 0 ]]; then
-    if command -v sudo >/dev/null 2>&1; then
-      sudo=(sudo)
-    else
-      echo "error: ${missing[*]} missing and not running as root" >&2
-      exit 1
-    fi
-  fi
-  mkdir -p build
-  export DEBIAN_FRONTEND=noninteractive
-  if ! { "${sudo[@]}" apt-get update -q &&
-         "${sudo[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -q "${missing[@]}"; } \
-       >build/apt.log 2>&1 </dev/null; then
-    tail -n 40 build/apt.log >&2
-    echo "error: apt-get could not install ${missing[*]} (log: build/apt.log)" >&2
-    exit 1
-  fi
-fi
+install_needed "$repo/build/apt.log"
 
 # Google Benchmark for the Windows builds comes from Debian's source package:
 # Debian ships it built for Linux only. A failure here only leaves the Windows
@@ -234,7 +205,8 @@ fi
 # case, failed by a crash, a leak, a sanitizer report or a timeout.
 
 fuzz_seconds="${VORLEX_FUZZ_SECONDS:-5}"
-fuzz_targets=(bmp_fuzzer ico_fuzzer jpeg_fuzzer gif_fuzzer png_fuzzer picture_fuzzer)
+fuzz_targets=(bmp_fuzzer ico_fuzzer jpeg_fuzzer gif_fuzzer png_fuzzer picture_fuzzer form_text_fuzzer
+  frx_record_fuzzer)
 
 build_fuzzers() {
   local dir="$repo/build/fuzz" home
