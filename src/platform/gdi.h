@@ -157,5 +157,8 @@ bool ReadPixels(HDC dc, Pixels& out);
 bool WritePixels(HDC dc, const Pixels& pixels);
 // GDI objects and contexts currently alive in this process (leak checks).
 size_t LiveObjectCount();
+// GDI objects and contexts created through the seam so far, deleted or not:
+// whether a call made any at all.
+size_t CreatedObjectCount();
 
 }  // namespace vorlex::gdi

@@ -1,11 +1,12 @@
 // DisplayText: aligned, rotated and 3-D text in the current rectangle.
 
 #include <cmath>
-#include <cstring>
 
 #include "surface/alignment.h"
 #include "surface/gdi_object.h"
 #include "surface/offscreen_dc.h"
+#include "surface/rotated_font.h"
+#include "surface/text_angle.h"
 #include "vorlex/AutomationError.h"
 #include "vorlex/Enums.h"
 #include "vorlex/Numeric.h"
@@ -14,38 +15,14 @@ namespace vorlex {
 
 namespace {
 
-// Deliberately these approximations: pi for the automatic angle, and another
-// one for degrees back to radians.
-constexpr double kPi = 3.14159;
+// Deliberately this approximation for degrees to radians, not the one of pi
+// that the automatic angle uses.
 constexpr double kRadiansPerDegree = 0.0174532925;
-
-float TextAngleFor(int32_t autoAngle, int16_t angle, const Area& a) {
-  const int64_t width = static_cast<int64_t>(a.r) - a.l;
-  if (autoAngle == vxNoneAuto) return angle;
-  if ((autoAngle != vxUp && autoAngle != vxDown) || width == 0) return 0;
-  const double rising =
-      std::atan(static_cast<double>(static_cast<int64_t>(a.b) - a.t) / static_cast<double>(width)) * 180 / kPi;
-  return static_cast<float>(autoAngle == vxUp ? rising : 360 - rising);
-}
-
-gdi::LOGFONTA RotatedFont(const Font& font, float angle, float twipsPerPixel) {
-  gdi::LOGFONTA lf{};
-  lf.lfHeight = ToLong(-20 * font.Size() / twipsPerPixel);
-  lf.lfEscapement = ToLong(static_cast<double>(angle) * 10);
-  lf.lfWeight = font.Bold() ? gdi::FW_BOLD : gdi::FW_NORMAL;
-  lf.lfItalic = font.Italic() ? 1 : 0;
-  lf.lfUnderline = font.Underline() ? 1 : 0;
-  lf.lfStrikeOut = font.Strikethrough() ? 1 : 0;
-  lf.lfQuality = gdi::PROOF_QUALITY;
-  lf.lfPitchAndFamily = gdi::VARIABLE_PITCH;
-  std::strncpy(lf.lfFaceName, font.Name().c_str(), sizeof lf.lfFaceName - 1);
-  return lf;
-}
 
 // Rotated text is centred on the area whatever the alignment says.
 gdi::POINT CentredRotated(const Area& a, float angle, const gdi::SIZE& extent) {
-  const double cx = a.l + (static_cast<double>(a.r) - a.l) / 2;
-  const double cy = a.t + (static_cast<double>(a.b) - a.t) / 2;
+  const double cx = a.l + CheckedSub(a.r, a.l) / 2.0;
+  const double cy = a.t + CheckedSub(a.b, a.t) / 2.0;
   const double r = angle * kRadiansPerDegree;
   const double halfW = extent.cx / 2.0;
   const double halfH = extent.cy / 2.0;

@@ -55,6 +55,12 @@ class OffScreenDC {
   OLE_COLOR BackColor() const { return 0; }
   void SetBackColor(const OLE_COLOR&) {}
 
+  // The surface's own font, selected into the memory context; Nothing until
+  // first set. Setting Nothing after a font selects the context's first font
+  // again. The handles stay their font objects' own.
+  const FontPtr& Font() const { return font_; }
+  void SetFont(const FontPtr& font);
+
   // Creates the memory context and a bitmap compatible with the control's
   // context. Meant to be called once per surface.
   void Initialize(gdi::HDC& CtlHdc, int32_t& CtlWidth, int32_t& CtlHeight);
@@ -90,6 +96,7 @@ class OffScreenDC {
   gdi::HBITMAP surfaceBitmap_ = nullptr;
   gdi::HGDIOBJ previousBitmap_ = nullptr;
   gdi::HGDIOBJ previousFont_ = nullptr;
+  FontPtr font_;
   int32_t width_ = 0;
   int32_t height_ = 0;
   DisplayDepth depth_;

@@ -6,6 +6,11 @@
 
 #ifdef VORLEX_HAVE_PNG
 #include <png.h>
+#else
+#include <filesystem>
+#include <fstream>
+
+#include "surface/png_encoder.h"
 #endif
 
 namespace vorlex {
@@ -63,9 +68,20 @@ bool WritePng(const gdi::Pixels& pixels, const std::string& path, std::string* e
 
 #else
 
-bool WritePng(const gdi::Pixels&, const std::string& path, std::string* error) {
-  if (error) *error = path + ": PNG export is not available in this build (no libpng)";
-  return false;
+// Without libpng, a file of our own making.
+bool WritePng(const gdi::Pixels& pixels, const std::string& path, std::string* error) {
+  auto fail = [&](const std::string& why) {
+    if (error) *error = path + ": " + why;
+    return false;
+  };
+  if (pixels.width <= 0 || pixels.height <= 0) return fail("an image needs at least one pixel");
+  const std::vector<uint8_t> file = EncodePng(pixels);
+  std::ofstream out(std::filesystem::path(std::u8string(path.begin(), path.end())), std::ios::binary);
+  if (!out) return fail("cannot open for writing");
+  out.write(reinterpret_cast<const char*>(file.data()), static_cast<std::streamsize>(file.size()));
+  out.close();
+  if (!out) return fail("write failed");
+  return true;
 }
 
 #endif

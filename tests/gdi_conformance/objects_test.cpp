@@ -7,6 +7,7 @@
 #include "canvas.h"
 #include "picture.h"
 #include "platform/gdi.h"
+#include "text_fonts.h"
 
 namespace vorlex::gdi_conformance {
 namespace {
@@ -162,6 +163,19 @@ TEST(LiveObjectCount, FollowsCreationAndDeletion) {
   EXPECT_EQ(gdi::LiveObjectCount(), base + 1);
   gdi::DeleteObject(brush);
   EXPECT_EQ(gdi::LiveObjectCount(), base);
+}
+
+TEST(CreatedObjectCount, CountsEveryCreationAndNoDeletion) {
+  Canvas canvas(2, 2);
+  const size_t base = gdi::CreatedObjectCount();
+  gdi::HPEN pen = gdi::CreatePen(gdi::PS_SOLID, 1, 0);
+  gdi::DeleteObject(pen);
+  EXPECT_EQ(gdi::CreatedObjectCount(), base + 1);
+  const gdi::LOGFONTA font = LogFont(kSansSerif, -11);
+  gdi::HFONT made = gdi::CreateFontIndirectA(&font);
+  EXPECT_EQ(gdi::CreatedObjectCount(), base + 2);
+  gdi::DeleteObject(made);
+  EXPECT_EQ(gdi::CreatedObjectCount(), base + 2);
 }
 
 }  // namespace

@@ -70,6 +70,7 @@ Handle ObjectTable::AddStock(ObjectData data) {
   Slot* slot = Find(handle);
   slot->stock = true;
   --live_;
+  --created_;
   return handle;
 }
 
@@ -90,6 +91,7 @@ Handle ObjectTable::Add(ObjectData data) {
   slot.selections = 0;
   slot.data = std::move(data);
   ++live_;
+  ++created_;
   return Encode(index, slot.generation);
 }
 

@@ -48,6 +48,7 @@ class ObjectTable {
   void Release(Handle handle);
 
   size_t LiveCount() const { return live_; }
+  size_t CreatedCount() const { return created_; }
   Handle StockPen() const { return stockPen_; }
   Handle StockBrush() const { return stockBrush_; }
   Handle StockBitmap() const { return stockBitmap_; }
@@ -66,6 +67,7 @@ class ObjectTable {
   uint32_t slotCount_ = 0;
   std::vector<uint32_t> freeSlots_;
   size_t live_ = 0;
+  size_t created_ = 0;  // stock objects not counted
   Handle stockPen_ = 0;
   Handle stockBrush_ = 0;
   Handle stockBitmap_ = 0;

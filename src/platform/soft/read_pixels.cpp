@@ -1,4 +1,4 @@
-// ReadPixels and LiveObjectCount: what tests and exporters see.
+// ReadPixels and the object counts: what tests and exporters see.
 
 #include "platform/gdi.h"
 #include "platform/soft/object_table.h"
@@ -23,6 +23,11 @@ bool ReadPixels(HDC dc, Pixels& out) {
 size_t LiveObjectCount() {
   const auto lock = soft::LockObjects();
   return soft::Objects().LiveCount();
+}
+
+size_t CreatedObjectCount() {
+  const auto lock = soft::LockObjects();
+  return soft::Objects().CreatedCount();
 }
 
 }  // namespace vorlex::gdi

@@ -19,10 +19,14 @@ namespace {
 // Objects and contexts created through the seam and not yet deleted. The
 // system's own count (GetGuiResources) is not used: Wine always reports 0.
 std::atomic<size_t> g_live{0};
+std::atomic<size_t> g_created{0};
 
 template <class Handle>
 Handle Counted(Handle handle) {
-  if (handle) ++g_live;
+  if (handle) {
+    ++g_live;
+    ++g_created;
+  }
   return handle;
 }
 BOOL Uncounted(BOOL deleted) {
@@ -32,6 +36,7 @@ BOOL Uncounted(BOOL deleted) {
 }  // namespace
 
 size_t LiveObjectCount() { return g_live; }
+size_t CreatedObjectCount() { return g_created; }
 
 HDC GetDC(HWND hwnd) { return reinterpret_cast<HDC>(::GetDC(reinterpret_cast<::HWND>(hwnd))); }
 

@@ -7,6 +7,7 @@
 #include "platform/soft/box.h"
 #include "platform/soft/draw_target.h"
 #include "platform/soft/object_table.h"
+#include "platform/soft/text/font_cache.h"
 #include "platform/soft/text/realized_font.h"
 #include "platform/soft/text/text_run.h"
 #include "platform/soft/text/utf16_text.h"
@@ -21,7 +22,7 @@ using soft::text::RealizedFont;
 RealizedFont* SelectedFont(const soft::DeviceContext& dc) {
   soft::Font* font = soft::Objects().Get<soft::Font>(dc.font);
   if (font == nullptr) return nullptr;
-  if (!font->realized) font->realized = RealizedFont::Create(font->logFont);
+  if (!font->realized) font->realized = soft::text::Realize(font->logFont);
   return font->realized.get();
 }
 
