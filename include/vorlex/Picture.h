@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "vorlex/Object.h"
 
@@ -34,6 +35,10 @@ class Picture : public Object {
   // of icons, GIFs and PNGs leave the destination as it was. An empty picture
   // draws nothing. False when the context could not be drawn into.
   virtual bool Render(uintptr_t hdc, int32_t x, int32_t y) const = 0;
+  // The picture as a file of its own format, the bytes it was loaded from
+  // (what IPicture::SaveAsFile gives with the original format kept); empty
+  // when it has none (an empty picture, one made by other means).
+  virtual std::vector<uint8_t> SaveAsFile() const { return {}; }
 };
 
 using PicturePtr = std::shared_ptr<Picture>;

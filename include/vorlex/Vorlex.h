@@ -19,6 +19,8 @@ namespace vorlex {
 // The block argument's default: -1, the current block (IndexBlock).
 inline Variant DefaultBlock() { return Variant(static_cast<int16_t>(-1)); }
 
+class PropertyBag;
+
 class Vorlex {
  public:
   // Creates the control in its container: the off-screen surface and the two
@@ -30,6 +32,12 @@ class Vorlex {
 
   // The defaults of a newly placed control.
   void InitProperties();
+  // Saving to and loading from the container's property bag. Loading stores
+  // the values read straight into the control (no setters, no notifications,
+  // no redraw of its own; the font goes through its setter); an error stops it
+  // with the values read so far kept.
+  void UserControl_WriteProperties(PropertyBag& PropBag) const;
+  void UserControl_ReadProperties(PropertyBag& PropBag);
 
   // Block list.
   int16_t get_Blocks() const;

@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <utility>
+#include <vector>
 
 #include "picture/image.h"
 #include "picture/picture_handle.h"
@@ -13,18 +14,22 @@ namespace vorlex::picture {
 
 class PixelPicture final : public Picture {
  public:
-  PixelPicture(Image image, int16_t type) : image_(std::move(image)), type_(type), handle_(image_) {}
+  // fileBytes: the file the picture was decoded from, kept for SaveAsFile.
+  PixelPicture(Image image, int16_t type, std::vector<uint8_t> fileBytes = {})
+      : image_(std::move(image)), type_(type), handle_(image_), fileBytes_(std::move(fileBytes)) {}
 
   int16_t Type() const override { return type_; }
   uint32_t Handle() const override { return handle_.Value(); }
   int32_t PixelWidth() const override { return image_.width; }
   int32_t PixelHeight() const override { return image_.height; }
   bool Render(uintptr_t hdc, int32_t x, int32_t y) const override;
+  std::vector<uint8_t> SaveAsFile() const override { return fileBytes_; }
 
  private:
   Image image_;
   int16_t type_;
   PictureHandle handle_;
+  std::vector<uint8_t> fileBytes_;
 };
 
 }  // namespace vorlex::picture

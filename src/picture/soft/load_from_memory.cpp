@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <utility>
+#include <vector>
 
 #include "picture/pixel_picture.h"
 #include "picture/soft/decode_picture.h"
@@ -11,7 +12,8 @@ namespace vorlex {
 
 PicturePtr LoadPictureFromMemory(const uint8_t* data, size_t size) {
   picture::DecodedPicture decoded = picture::DecodePicture(picture::ByteView(data, size));
-  return std::make_shared<picture::PixelPicture>(std::move(decoded.image), decoded.type);
+  return std::make_shared<picture::PixelPicture>(std::move(decoded.image), decoded.type,
+                                                 std::vector<uint8_t>(data, data + size));
 }
 
 }  // namespace vorlex

@@ -2,6 +2,7 @@
 
 #include <cstring>
 #include <limits>
+#include <utility>
 
 #include "picture/picture_error.h"
 
@@ -36,7 +37,8 @@ IStream* MemoryStream(const uint8_t* data, size_t size) {
 
 }  // namespace
 
-OlePicture::OlePicture(IPicture* picture) : picture_(picture) {
+OlePicture::OlePicture(IPicture* picture, std::vector<uint8_t> fileBytes)
+    : picture_(picture), fileBytes_(std::move(fileBytes)) {
   picture_->get_Width(&himetricWidth_);
   picture_->get_Height(&himetricHeight_);
   pixelWidth_ = ToPixels(himetricWidth_, LOGPIXELSX);
@@ -72,7 +74,7 @@ PicturePtr LoadOlePicture(const uint8_t* data, size_t size) {
   const HRESULT result = ::OleLoadPicture(stream.get(), static_cast<LONG>(size), FALSE, IID_IPicture,
                                           reinterpret_cast<void**>(picture.out()));
   Require(SUCCEEDED(result) && picture.get() != nullptr);
-  return std::make_shared<OlePicture>(picture.release());
+  return std::make_shared<OlePicture>(picture.release(), std::vector<uint8_t>(data, data + size));
 }
 
 }  // namespace vorlex::picture

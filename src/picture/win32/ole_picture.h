@@ -7,14 +7,16 @@
 #include <ocidl.h>
 #include <olectl.h>
 
+#include <vector>
+
 #include "vorlex/Picture.h"
 
 namespace vorlex::picture {
 
 class OlePicture final : public Picture {
  public:
-  // Takes over the reference.
-  explicit OlePicture(IPicture* picture);
+  // Takes over the reference; fileBytes are what it was loaded from.
+  OlePicture(IPicture* picture, std::vector<uint8_t> fileBytes);
   ~OlePicture() override;
 
   int16_t Type() const override;
@@ -22,6 +24,7 @@ class OlePicture final : public Picture {
   int32_t PixelWidth() const override { return pixelWidth_; }
   int32_t PixelHeight() const override { return pixelHeight_; }
   bool Render(uintptr_t hdc, int32_t x, int32_t y) const override;
+  std::vector<uint8_t> SaveAsFile() const override { return fileBytes_; }
 
  private:
   IPicture* picture_;
@@ -29,6 +32,7 @@ class OlePicture final : public Picture {
   OLE_YSIZE_HIMETRIC himetricHeight_ = 0;
   int32_t pixelWidth_ = 0;
   int32_t pixelHeight_ = 0;
+  std::vector<uint8_t> fileBytes_;
 };
 
 // Loads bytes through OleLoadPicture; rejects (error 481) what it refuses.
