@@ -426,13 +426,10 @@ TEST(EvalOptions, EvalNeedsASourceAndAStatement) {
   EXPECT_EQ(UsageProblem({"eval", "--new", "--demo", "-e", "Blocks"}), "more than one SOURCE given");
 }
 
-TEST(EvalOptions, FormFileSourceIsNotSupportedYet) {
-  EXPECT_EQ(UsageProblem({"eval", "forms/gauge.frm", "-e", "Blocks"}),
-            "forms/gauge.frm: form files are not supported by this build yet (use --new or --demo)");
-}
-
-TEST(EvalOptions, SaveIsNotAvailableYet) {
-  EXPECT_EQ(UsageProblem({"save", "--new"}), "the save command is not available in this build yet");
+TEST(EvalOptions, AFormFileIsASource) {
+  const Options options = ParseOptions({"eval", "forms/gauge.frm", "-e", "Blocks"});
+  EXPECT_EQ(options.source, SourceKind::File);
+  EXPECT_EQ(options.sourcePath, "forms/gauge.frm");
 }
 
 TEST(EvalOptions, UnknownCommandOrOptionAsksForTheUsage) {
@@ -503,13 +500,7 @@ TEST(EvalCommandLine, StatementThatDoesNotReadExits2WithOneLineQuotingIt) {
   EXPECT_EQ(r.err, "vorlex: cannot read statement \"BlockColor(1\": missing \")\"\n");
 }
 
-TEST(EvalCommandLine, UnavailableCommandExits2WithOneLine) {
-  const CommandResult r = RunTool({"save", "--new", "-o", "out.frm"});
-  EXPECT_EQ(r.status, 2);
-  EXPECT_EQ(r.err, "vorlex: the save command is not available in this build yet\n");
-}
-
-TEST(EvalCommandLine, FormFileExits2WithOneLineNamingIt) {
+TEST(EvalCommandLine, MissingFormFileExits2WithOneLineNamingIt) {
   const CommandResult r = RunTool({"eval", "gauge.frm", "-e", "Blocks"});
   EXPECT_EQ(r.status, 2);
   EXPECT_EQ(Lines(r.err), 1);

@@ -136,6 +136,8 @@ TEST(ToolOptions, OptionsThatDoNotApplyAreBadUsage) {
   EXPECT_EQ(UsageProblem({"render"}), "render needs a SOURCE: a form file, --demo or --new");
   EXPECT_EQ(UsageProblem({"render", "--new", "--now"}), "--now needs a time");
   EXPECT_EQ(UsageProblem({"click", "--new", "1", "2", "3"}), "more than one SOURCE given");
+  EXPECT_EQ(UsageProblem({"save", "--new", "--now", "2026-01-01"}),
+            "save paints nothing: --now and --drive do not apply");
 }
 
 // The control of a source.
@@ -143,7 +145,7 @@ TEST(ToolOptions, OptionsThatDoNotApplyAreBadUsage) {
 TEST(ToolSource, DemoIsItsOwnSizeUnlessSizeIsGiven) {
   Options options;
   options.source = SourceKind::Demo;
-  EXPECT_EQ(PlaceControl(options).site->ScaleWidth(), kDemoWidth);
+  EXPECT_EQ(PlaceControl(options).site->ScaleWidth(), 480);
   options.widthPixels = 300;
   options.heightPixels = 90;
   const PlacedControl placed = PlaceControl(options);
@@ -245,9 +247,100 @@ TEST(ToolClick, PrintsTheBlockTheReleaseHits) {
   EXPECT_EQ(r.out, "BlockClicked -1\n");
 }
 
+TEST(ToolClick, ADisabledControlGetsNoReleaseAndPrintsNothing) {
+  const CommandResult r = RunTool({"click", "--new", "-e", "AddBlock", "-e", "Enabled = False", "0", "0"});
+  EXPECT_EQ(r.status, 0) << r.err;
+  EXPECT_EQ(r.out, "");
+}
+
 TEST(ToolClick, AnAutomationErrorIsStatus1AndNoClick) {
   const CommandResult r = RunTool({"click", "--new", "-e", "HMaxValue = 40000", "1", "1"});
   EXPECT_EQ(r.status, 1);
   EXPECT_EQ(r.out, "");
   EXPECT_EQ(r.err, "vorlex: statement \"HMaxValue = 40000\": error 6: Overflow\n");
+}
+
+// Form files.
+
+namespace {
+
+std::string DashboardForm() { return std::string(VORLEX_TEST_DATA) + "/dashboard.frm"; }
+
+void WriteText(const std::string& path, const std::string& text) {
+  std::ofstream file(path, std::ios::binary);
+  file << text;
+}
+
+}  // namespace
+
+TEST(ToolForms, AFormFileIsLoadedAndSizedByItsOwnWidthAndHeight) {
+  const CommandResult r = RunTool({"eval", DashboardForm(), "-e", "Blocks", "-e", "BlockKey(32)", "-e", "Caption"});
+  EXPECT_EQ(r.status, 0) << r.err;
+  EXPECT_EQ(r.out, "32\nb32\nVorlex dashboard\n");
+  Options options;
+  options.source = SourceKind::File;
+  options.sourcePath = DashboardForm();
+  const PlacedControl placed = PlaceControl(options);
+  EXPECT_EQ(placed.name, "Dashboard");
+  EXPECT_EQ(placed.site->ScaleWidth(), 800);  // 12000 x 960 twips
+  EXPECT_EQ(placed.site->ScaleHeight(), 64);
+  options.widthPixels = 400;
+  options.heightPixels = 40;
+  EXPECT_EQ(PlaceControl(options).site->ScaleWidth(), 400);
+}
+
+TEST(ToolForms, RenderPaintsAForm) {
+  TempFile png("dashboard.png");
+  const CommandResult r = RunTool({"render", DashboardForm(), "-o", png.Path()});
+  ASSERT_EQ(r.status, 0) << r.err;
+  const std::string bytes = png.Bytes();
+  ASSERT_GT(bytes.size(), 24u);
+  EXPECT_EQ(BigEndian32(bytes, 16), 800u);
+  EXPECT_EQ(BigEndian32(bytes, 20), 64u);
+}
+
+// Form text has the CR LF line ends of the files it stands for.
+TEST(ToolForms, SaveWritesFormTextThatLoadsBackToTheSameValues) {
+  const CommandResult saved = RunTool({"save", "--new", "-e", "AddBlock", "-e", "BlockKey(1) = \"gauge\"", "-e",
+                                       "BlockBarRight(1) = 40", "-e", "Caption = \"Disk \"\"C\"\"\""});
+  ASSERT_EQ(saved.status, 0) << saved.err;
+  EXPECT_EQ(saved.out.rfind("VERSION 5.00\r\nBegin VorlexLib.Vorlex Vorlex1\r\n", 0), 0u) << saved.out;
+  EXPECT_NE(saved.out.find("Caption         =   \"Disk \"\"C\"\"\""), std::string::npos) << saved.out;
+  TempFile form("saved.frm");
+  WriteText(form.Path(), saved.out);
+  const CommandResult loaded =
+      RunTool({"eval", form.Path(), "-e", "Blocks", "-e", "BlockKey(1)", "-e", "BlockBarRight(1)", "-e", "Caption"});
+  EXPECT_EQ(loaded.status, 0) << loaded.err;
+  EXPECT_EQ(loaded.out, "1\ngauge\n40\nDisk \"C\"\n");
+}
+
+TEST(ToolForms, SaveToAFileWritesItAndPrintsNothing) {
+  TempFile form("out.frm");
+  const CommandResult r = RunTool({"save", "--new", "-e", "AddBlock", "-o", form.Path()});
+  ASSERT_EQ(r.status, 0) << r.err;
+  EXPECT_EQ(r.out, "");
+  EXPECT_NE(form.Bytes().find("Blocks          =   1"), std::string::npos) << form.Bytes();
+}
+
+TEST(ToolForms, AFormThatDoesNotReadIsStatus2NamingTheFileAndLine) {
+  TempFile form("broken.frm");
+  WriteText(form.Path(), "VERSION 5.00\nBegin VorlexLib.Vorlex Vorlex1\n   Blocks = &HZZ&\nEnd\n");
+  const CommandResult r = RunTool({"render", form.Path(), "-o", form.Path() + ".png"});
+  EXPECT_EQ(r.status, 2);
+  EXPECT_EQ(r.err.rfind("vorlex: " + form.Path() + ":3: ", 0), 0u) << r.err;
+  EXPECT_EQ(std::count(r.err.begin(), r.err.end(), '\n'), 1);
+}
+
+TEST(ToolForms, AFormWithoutAVorlexControlIsStatus2) {
+  TempFile form("other.frm");
+  WriteText(form.Path(), "VERSION 5.00\nBegin VB.Form Form1\n   Caption = \"x\"\nEnd\n");
+  const CommandResult r = RunTool({"eval", form.Path(), "-e", "Blocks"});
+  EXPECT_EQ(r.status, 2);
+  EXPECT_EQ(r.err, "vorlex: " + form.Path() + ": the form holds no Vorlex control\n");
+}
+
+TEST(ToolForms, AMissingFormIsStatus2NamingIt) {
+  const CommandResult r = RunTool({"click", "no-such-form.frm", "1", "1"});
+  EXPECT_EQ(r.status, 2);
+  EXPECT_EQ(r.err.rfind("vorlex: no-such-form.frm", 0), 0u) << r.err;
 }

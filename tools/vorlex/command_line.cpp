@@ -5,6 +5,8 @@
 #include "eval_command.h"
 #include "options.h"
 #include "render_command.h"
+#include "save_command.h"
+#include "vorlex/FormText.h"
 
 namespace vorlex::cli {
 
@@ -21,9 +23,15 @@ int RunCommandLine(const std::vector<std::string>& args, std::ostream& out, std:
     out << UsageText();
     return 0;
   }
-  if (options.command == "render") return RunRender(options, out, err);
-  if (options.command == "click") return RunClick(options, out, err);
-  return RunEval(options, out, err);
+  try {
+    if (options.command == "render") return RunRender(options, out, err);
+    if (options.command == "click") return RunClick(options, out, err);
+    if (options.command == "save") return RunSave(options, out, err);
+    return RunEval(options, out, err);
+  } catch (const FormError& error) {
+    err << "vorlex: " << error.what() << '\n';
+    return 2;
+  }
 }
 
 }  // namespace vorlex::cli

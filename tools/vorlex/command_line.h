@@ -1,7 +1,7 @@
 #pragma once
 // The vorlex tool as a function of its arguments: what it writes and its exit
-// status (0 success, 1 an automation error in render or click, 2 bad usage
-// or an unwritable file).
+// status (0 success, 1 an automation error in render, click or save, 2 bad usage
+// or a file that cannot be read or written).
 
 #include <ostream>
 #include <string>

@@ -87,10 +87,6 @@ void CheckComplete(const Options& options) {
   if (command == "save" && (options.now || !options.drives.empty())) {
     throw UsageError("save paints nothing: --now and --drive do not apply");
   }
-  if (command == "save") throw UsageError("the save command is not available in this build yet");
-  if (options.source == SourceKind::File) {
-    throw UsageError(options.sourcePath + ": form files are not supported by this build yet (use --new or --demo)");
-  }
 }
 
 }  // namespace
@@ -107,14 +103,17 @@ std::string UsageText() {
          "                   Values: numbers, \"strings\", True, False, Nothing and\n"
          "                   LoadPicture(\"file\") (BMP, ICO, GIF, JPEG or PNG)\n"
          "  -o FILE          where render writes its PNG (default: SOURCE's name .png)\n"
+         "                   or save its form text\n"
          "  --size WxH       the control's client size in pixels\n"
          "  --now TIME       the clock stands at this local time, YYYY-MM-DD[THH:MM[:SS]]\n"
          "  --drive L=PATH   drive letter L reports the disk that holds PATH (C is /)\n"
          "  --design         run the control in design mode instead of user mode\n"
          "render paints once and writes the window as PNG; click paints once, releases\n"
-         "the mouse at pixel (X, Y) and prints BlockClicked N.\n"
-         "Exit status: 0 success, 1 an automation error in render or click, 2 bad usage\n"
-         "or an unreadable file.\n";
+         "the mouse at pixel (X, Y) and prints BlockClicked N; save writes the form text\n"
+         "(to standard output without -o; pictures go beside the form as files).\n"
+         "A form file's first Vorlex control is the one used.\n"
+         "Exit status: 0 success, 1 an automation error in render, click or save, 2 bad\n"
+         "usage or a file that cannot be read or written.\n";
 }
 
 Options ParseOptions(const std::vector<std::string>& args) {

@@ -66,6 +66,8 @@ int RunClick(const Options& options, std::ostream& out, std::ostream& err) {
   int status = 0;
   if (!Prepare(options, placed, err, status)) return status;
   placed.site->ClearRecords();
+  // The window system gives a disabled control no mouse input.
+  if (placed.control->get_Enabled() == VARIANT_FALSE) return 0;
   placed.control->UserControl_MouseUp(1, 0, options.clickX, options.clickY);
   for (const std::string& event : placed.site->RaisedEvents()) out << event << '\n';
   return 0;

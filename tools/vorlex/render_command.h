@@ -14,7 +14,8 @@ namespace vorlex::cli {
 int RunRender(const Options& options, std::ostream& out, std::ostream& err);
 
 // Releases the mouse at (options.clickX, options.clickY) and prints the
-// "BlockClicked N" the control raises. Exit status as RunRender.
+// "BlockClicked N" the control raises; a disabled control gets no release and
+// prints nothing. Exit status as RunRender.
 int RunClick(const Options& options, std::ostream& out, std::ostream& err);
 
 // Where render writes when no -o is given.
