@@ -6,12 +6,14 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "compose/live_text.h"
 #include "control/block_definition.h"
 #include "dashboard_scene.h"
 #include "vorlex/ClockService.h"
 #include "vorlex/DiskService.h"
+#include "vorlex/FormText.h"
 #include "vorlex/HeadlessSite.h"
 #include "vorlex/Vorlex.h"
 
@@ -52,6 +54,16 @@ void BM_RedrawDashboard(benchmark::State& state) {
   for (auto _ : state) control.Refresh();
 }
 BENCHMARK(BM_RedrawDashboard)->Unit(benchmark::kMicrosecond);
+
+// The reference dashboard form itself, loaded from its file.
+void BM_RedrawDashboardForm(benchmark::State& state) {
+  auto site = MakeSite(vorlex::bench::kDashboardWidth, vorlex::bench::kDashboardHeight);
+  Vorlex control(*site);
+  std::vector<vorlex::FormControl> forms = vorlex::LoadForm(VORLEX_DASHBOARD_FORM);
+  vorlex::ApplyForm(control, forms.at(0), VORLEX_DASHBOARD_FORM);
+  for (auto _ : state) control.Refresh();
+}
+BENCHMARK(BM_RedrawDashboardForm)->Unit(benchmark::kMicrosecond);
 
 // n plain blocks side by side, each visible, on an 800 x 64 bar.
 void AddStrip(Vorlex& control, int count) {

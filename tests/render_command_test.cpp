@@ -344,3 +344,17 @@ TEST(ToolForms, AMissingFormIsStatus2NamingIt) {
   EXPECT_EQ(r.status, 2);
   EXPECT_EQ(r.err.rfind("vorlex: no-such-form.frm", 0), 0u) << r.err;
 }
+
+// The example forms stay loadable and paintable.
+TEST(ToolForms, EveryExampleFormRenders) {
+  int forms = 0;
+  for (const auto& entry : std::filesystem::directory_iterator(VORLEX_EXAMPLE_FORMS)) {
+    if (entry.path().extension() != ".frm") continue;
+    ++forms;
+    TempFile png("example.png");
+    const CommandResult r = RunTool({"render", entry.path().string(), "-o", png.Path()});
+    EXPECT_EQ(r.status, 0) << entry.path() << ": " << r.err;
+    EXPECT_GT(png.Bytes().size(), 24u) << entry.path();
+  }
+  EXPECT_GE(forms, 4);
+}
