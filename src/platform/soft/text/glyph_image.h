@@ -1,7 +1,8 @@
 #pragma once
-// One glyph as GDI draws it without antialiasing: a one-bit image placed
-// relative to the pen, and the advance that moves the pen on; and the width
-// GetTextExtentPoint counts for it.
+// One glyph as GDI draws it: an image of coverage levels placed relative to
+// the pen, and the advance that moves the pen on; and the width
+// GetTextExtentPoint counts for it. Like GDI's text cache, every glyph holds
+// 17 levels (0 to 16) a pixel; a one-bit glyph holds only 0 and 16.
 
 #include <cstdint>
 #include <optional>
@@ -20,21 +21,25 @@ struct GlyphStyle {
   int32_t ascent = 0;
   int32_t descent = 0;
   GlyphTransform transform;
+  // Grayscale font smoothing: outlines are hinted and scanned for gray
+  // levels rather than for one bit.
+  bool smoothed = false;
 };
+
+// The coverage a glyph pixel has when fully inked.
+inline constexpr uint8_t kFullLevel = 16;
 
 struct GlyphImage {
   int32_t left = 0;   // pen to the image's left column
   int32_t top = 0;    // pen up to the image's top row
   int32_t width = 0;  // 0 when the glyph draws nothing
   int32_t height = 0;
-  int32_t pitch = 0;          // bytes per row
-  std::vector<uint8_t> bits;  // top row first; bit 0x80 >> (x % 8) of byte x / 8 is column x
-  int32_t advanceX = 0;       // pixels, right
-  int32_t advanceY = 0;       // pixels, down
+  std::vector<uint8_t> levels;  // width bytes a row, top row first; 0..kFullLevel
+  int32_t advanceX = 0;         // pixels, right
+  int32_t advanceY = 0;         // pixels, down
 
-  bool Lit(int32_t x, int32_t y) const {
-    return (bits[static_cast<size_t>(y) * static_cast<size_t>(pitch) + static_cast<size_t>(x / 8)] &
-            (0x80 >> (x % 8))) != 0;
+  uint8_t Level(int32_t x, int32_t y) const {
+    return levels[static_cast<size_t>(y) * static_cast<size_t>(width) + static_cast<size_t>(x)];
   }
 };
 

@@ -1,5 +1,6 @@
 #include "platform/soft/text/realized_font.h"
 
+#include FT_GASP_H
 #include FT_WINFONTS_H
 
 #include <cstring>
@@ -14,6 +15,7 @@ namespace vorlex::gdi::soft::text {
 namespace {
 
 constexpr int32_t kBoldAbove = 550;  // weights above this are bold
+constexpr uint8_t kNonAntialiasedQuality = 3;
 
 FaceRequest RequestFor(const LOGFONTA& logFont) {
   FaceRequest request;
@@ -54,6 +56,17 @@ Face PickFaceBySize(const std::string& path, long faceCount, int32_t lfHeight) {
   return OpenFace(path, indexes[PickRasterSize(sizes, lfHeight)]);
 }
 
+// Whether an outline font is drawn with grayscale smoothing, as GDI does
+// with standard font smoothing on: every quality but NONANTIALIASED_QUALITY
+// asks for it, and the face's 'gasp' table may refuse it at its size, unless
+// GDI synthesizes bold or italic (those are smoothed whatever the table says).
+bool Smoothed(FT_Face face, uint8_t quality, bool synthesized) {
+  if (quality == kNonAntialiasedQuality) return false;
+  if (synthesized) return true;
+  const FT_Int gasp = FT_Get_Gasp(face, face->size->metrics.y_ppem);
+  return gasp == FT_GASP_NO_TABLE || (gasp & FT_GASP_DO_GRAY) != 0;
+}
+
 // Some fonts carry no Unicode map: symbol fonts and Windows bitmap fonts.
 void ChooseCharmap(FT_Face face) {
   if (face->charmap == nullptr && face->num_charmaps > 0) FT_Set_Charmap(face, face->charmaps[0]);
@@ -83,7 +96,10 @@ bool RealizedFont::SizeFace(const LOGFONTA& logFont) {
   FT_Face face = face_.get();
   style_.fakeBold = logFont.lfWeight > kBoldAbove && !FaceIsBold(face);
   const bool fakeItalic = logFont.lfItalic != 0 && (face->style_flags & FT_STYLE_FLAG_ITALIC) == 0;
-  return FT_IS_SCALABLE(face) ? SizeOutline(logFont.lfHeight, fakeItalic) : SizeBitmap(logFont.lfHeight, fakeItalic);
+  if (!FT_IS_SCALABLE(face)) return SizeBitmap(logFont.lfHeight, fakeItalic);
+  if (!SizeOutline(logFont.lfHeight, fakeItalic)) return false;
+  style_.smoothed = Smoothed(face, logFont.lfQuality, style_.fakeBold || fakeItalic);
+  return true;
 }
 
 bool RealizedFont::SizeOutline(int32_t lfHeight, bool fakeItalic) {

@@ -5,6 +5,7 @@
 
 #include "platform/soft/text/polygon_fill.h"
 #include "platform/soft/text/run_layout.h"
+#include "platform/soft/text/text_ink.h"
 
 namespace vorlex::gdi::soft::text {
 namespace {
@@ -25,14 +26,15 @@ void PaintCell(const Surface& surface, const RunLayout& run, const TextMetrics& 
   if (!cell.Empty()) PaintBox(surface, cell, SolidPaint{PixelOf(style.background)});
 }
 
-// The lit pixels of a glyph image whose pen position is `pen`.
-void PaintGlyph(const Surface& surface, const GlyphImage& glyph, POINT pen, const Box& clip, uint32_t pixel) {
+// The inked pixels of a glyph image whose pen position is `pen`.
+void PaintGlyph(const Surface& surface, const GlyphImage& glyph, POINT pen, const Box& clip, const TextInk& ink) {
   const int64_t left = int64_t{pen.x} + glyph.left;
   const int64_t top = int64_t{pen.y} - glyph.top;
   const Box visible = Intersect(Box{left, top, left + glyph.width, top + glyph.height}, clip);
   for (int64_t y = visible.top; y < visible.bottom; ++y) {
     for (int64_t x = visible.left; x < visible.right; ++x) {
-      if (glyph.Lit(static_cast<int32_t>(x - left), static_cast<int32_t>(y - top))) surface.At(x, y) = pixel;
+      const uint8_t level = glyph.Level(static_cast<int32_t>(x - left), static_cast<int32_t>(y - top));
+      if (level > 1) surface.At(x, y) = ink.Over(surface.At(x, y), level);
     }
   }
 }
@@ -60,7 +62,7 @@ void DrawRun(const Surface& surface, RealizedFont& font, POINT at, const RunStyl
   const bool stepped = !advances.empty() || font.Escapement() != 0;
   const RunLayout run = LayOutRun(at, metrics.ascent, d, advances.empty() ? Widths(font, text) : advances, stepped);
   const Box clip = style.clip ? Intersect(*style.clip, BoundsOf(surface)) : BoundsOf(surface);
-  const uint32_t ink = PixelOf(style.textColor);
+  const TextInk ink(style.textColor);
   if (style.opaque) PaintCell(surface, run, metrics, style);
   POINT pen = run.origin;
   for (size_t i = 0; i < text.size(); ++i) {
@@ -70,8 +72,8 @@ void DrawRun(const Surface& surface, RealizedFont& font, POINT at, const RunStyl
     const POINT step = stepped ? run.steps[i] : POINT{glyph->advanceX, glyph->advanceY};
     pen = {pen.x + step.x, pen.y + step.y};
   }
-  if (style.underline) PaintLine(surface, run, d, UnderlineOf(metrics), clip, ink);
-  if (style.strikeout) PaintLine(surface, run, d, StrikeoutOf(metrics), clip, ink);
+  if (style.underline) PaintLine(surface, run, d, UnderlineOf(metrics), clip, ink.pixel());
+  if (style.strikeout) PaintLine(surface, run, d, StrikeoutOf(metrics), clip, ink.pixel());
 }
 
 }  // namespace vorlex::gdi::soft::text
