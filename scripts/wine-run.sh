@@ -148,19 +148,33 @@ fi
 mkdir -p "$WINEPREFIX.runs"
 outdir="$(mktemp -d "$WINEPREFIX.runs/XXXXXX")"
 trap 'rm -rf "$outdir"' EXIT
-: >"$outdir/out"
-: >"$outdir/err"
 [[ -e /dev/stdin ]] || exec </dev/null
-exec 3<&0   # a background job would otherwise read /dev/null
-"$loader" "$program" "$@" <&3 >"$outdir/out" 2>"$outdir/err" &
-pid=$!
-exec 3<&-
-tail -s 0.1 -n +1 -f --pid="$pid" "$outdir/out" &
-out_tail=$!
-tail -s 0.1 -n +1 -f --pid="$pid" "$outdir/err" >&2 &
-err_tail=$!
+
+run_once() {
+  : >"$outdir/out"
+  : >"$outdir/err"
+  exec 3<&0   # a background job would otherwise read /dev/null
+  "$loader" "$program" "$@" <&3 >"$outdir/out" 2>"$outdir/err" &
+  local pid=$! out_tail err_tail rc=0
+  exec 3<&-
+  tail -s 0.1 -n +1 -f --pid="$pid" "$outdir/out" &
+  out_tail=$!
+  tail -s 0.1 -n +1 -f --pid="$pid" "$outdir/err" >&2 &
+  err_tail=$!
+  wait "$pid" || rc=$?
+  wait "$out_tail" || true
+  wait "$err_tail" || true
+  return "$rc"
+}
+
+# Now and then, with several programs starting at once, Wine fails to start one:
+# it ends at once with an error and without a byte of output, never having
+# reached the program's main. Such a start is tried once more.
 rc=0
-wait "$pid" || rc=$?
-wait "$out_tail" || true
-wait "$err_tail" || true
+run_once "$@" || rc=$?
+if ((rc != 0)) && [[ ! -s "$outdir/out" && ! -s "$outdir/err" ]]; then
+  echo "wine-run: $program did not start (exit $rc); trying once more" >&2
+  rc=0
+  run_once "$@" || rc=$?
+fi
 exit "$rc"
