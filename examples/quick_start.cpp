@@ -19,7 +19,7 @@ int main() {
   bar.put_BlockBarRight(40, "cpu");
   bar.put_BlockColor(0x0000FF, "cpu");  // colours are 0xBBGGRR: red
   bar.put_IndexBlock(2);
-  bar.put_BlockText("!TIME!");  // no block argument: IndexBlock
+  bar.put_BlockText("!short time!");  // no block argument: IndexBlock
   bar.SetBlockGradientStyle(vorlex::vxLeftHGradient);
 
   std::cout << "blocks: " << bar.get_Blocks() << "\n";
