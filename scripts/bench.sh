@@ -12,7 +12,7 @@ min_time="${VORLEX_BENCH_MIN_TIME:-0.2}"
 
 benches=(surface_bench redraw_bench)
 cmake --preset native >/dev/null
-cmake --build build/native --target "${benches[@]}" control_bench >/dev/null
+cmake --build build/native --target "${benches[@]}" >/dev/null
 cmake --preset win64 >/dev/null
 cmake --build build/win64 --target "${benches[@]}" >/dev/null
 

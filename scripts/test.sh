@@ -199,14 +199,14 @@ if [[ -n "${built[native-asan]:-}" ]]; then
 fi
 
 # ---------------------------------------------------------------------------
-# Fuzz targets of the picture decoders: a project of their own (fuzz/) built
-# with clang. Each runs for a few seconds from its seed corpus (fuzz/corpus,
+# Fuzz targets of the picture decoders and the form reader: a project of their
+# own (fuzz/) built with clang. Each runs for a few seconds from its seed corpus (fuzz/corpus,
 # read only; what it finds goes to build/fuzz-corpus); each target is one test
 # case, failed by a crash, a leak, a sanitizer report or a timeout.
 
 fuzz_seconds="${VORLEX_FUZZ_SECONDS:-5}"
-fuzz_targets=(bmp_fuzzer ico_fuzzer jpeg_fuzzer gif_fuzzer png_fuzzer picture_fuzzer form_text_fuzzer
-  frx_record_fuzzer)
+# The targets are the ones fuzz/CMakeLists.txt declares with vorlex_fuzzer().
+mapfile -t fuzz_targets < <(sed -n 's/^vorlex_fuzzer(\([A-Za-z0-9_]*\)).*/\1/p' "$repo/fuzz/CMakeLists.txt")
 
 build_fuzzers() {
   local dir="$repo/build/fuzz" home
