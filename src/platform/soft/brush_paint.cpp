@@ -1,12 +1,6 @@
 #include "platform/soft/brush_paint.h"
 
 namespace vorlex::gdi::soft {
-namespace {
-
-// Non-negative remainder modulo 8 (two's complement).
-unsigned Mod8(int64_t value) { return static_cast<unsigned>(value & 7); }
-
-}  // namespace
 
 bool HatchLit(int style, int64_t x, int64_t y) {
   const uint8_t row = kHatchRows[static_cast<size_t>(style)][Mod8(y)];

@@ -4,6 +4,7 @@
 // background colour in OPAQUE mode and left alone in TRANSPARENT mode.
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 
 #include "platform/soft/objects.h"
@@ -22,6 +23,10 @@ inline constexpr std::array<std::array<uint8_t, 8>, kHatchStyleCount> kHatchRows
     {0x08, 0x08, 0x08, 0xFF, 0x08, 0x08, 0x08, 0x08},  // HS_CROSS
     {0x81, 0x42, 0x24, 0x18, 0x18, 0x24, 0x42, 0x81},  // HS_DIAGCROSS
 }};
+
+// The non-negative remainder modulo 8 (two's complement): a pattern row or
+// column from any coordinate.
+inline size_t Mod8(int64_t value) { return static_cast<size_t>(value & 7); }
 
 // Whether pattern pixel (x, y), relative to the brush origin, is lit.
 bool HatchLit(int style, int64_t x, int64_t y);

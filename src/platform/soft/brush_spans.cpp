@@ -12,9 +12,6 @@ namespace {
 constexpr size_t kPeriod = 8;
 constexpr uint8_t kAllLit = 0xFF;
 
-// Non-negative remainder modulo 8 (two's complement).
-size_t Mod8(int64_t value) { return static_cast<size_t>(value & 7); }
-
 // `count` pixels from `first` set to a pattern of period 8 whose first eight
 // entries start at `pattern`.
 void CopyPattern(uint32_t* first, size_t count, const uint32_t* pattern) {

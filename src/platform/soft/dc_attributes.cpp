@@ -1,6 +1,9 @@
 // SetBkMode, SetBkColor, SetTextColor and GetDeviceCaps.
 
+#include <utility>
+
 #include "platform/gdi.h"
+#include "platform/soft/draw_target.h"
 #include "platform/soft/object_table.h"
 
 namespace vorlex::gdi {
@@ -11,13 +14,18 @@ constexpr int kBitsPerPixel = 32;               // every softgdi device is 32 bp
 constexpr int kPlanes = 1;
 constexpr int kPixelsPerInch = 96;
 
-soft::DeviceContext* FindDc(HDC dc) { return soft::Objects().Get<soft::DeviceContext>(soft::ValueOf(dc)); }
+// Sets one of the DC's colours; the previous one, or CLR_INVALID for no DC.
+COLORREF ExchangeColor(HDC dc, COLORREF soft::DeviceContext::*field, COLORREF color) {
+  soft::DeviceContext* context = soft::FindDc(dc);
+  if (context == nullptr) return kInvalidColor;
+  return std::exchange(context->*field, color);
+}
 
 }  // namespace
 
 int SetBkMode(HDC dc, int mode) {
   const auto lock = soft::LockObjects();
-  soft::DeviceContext* context = FindDc(dc);
+  soft::DeviceContext* context = soft::FindDc(dc);
   if (context == nullptr || (mode != TRANSPARENT && mode != OPAQUE)) return 0;
   const int previous = context->bkMode;
   context->bkMode = mode;
@@ -26,26 +34,18 @@ int SetBkMode(HDC dc, int mode) {
 
 COLORREF SetBkColor(HDC dc, COLORREF color) {
   const auto lock = soft::LockObjects();
-  soft::DeviceContext* context = FindDc(dc);
-  if (context == nullptr) return kInvalidColor;
-  const COLORREF previous = context->bkColor;
-  context->bkColor = color;
-  return previous;
+  return ExchangeColor(dc, &soft::DeviceContext::bkColor, color);
 }
 
 COLORREF SetTextColor(HDC dc, COLORREF color) {
   const auto lock = soft::LockObjects();
-  soft::DeviceContext* context = FindDc(dc);
-  if (context == nullptr) return kInvalidColor;
-  const COLORREF previous = context->textColor;
-  context->textColor = color;
-  return previous;
+  return ExchangeColor(dc, &soft::DeviceContext::textColor, color);
 }
 
 // A memory DC reports its device, the screen, whatever bitmap it holds.
 int GetDeviceCaps(HDC dc, int index) {
   const auto lock = soft::LockObjects();
-  if (FindDc(dc) == nullptr) return 0;
+  if (soft::FindDc(dc) == nullptr) return 0;
   if (index == BITSPIXEL) return kBitsPerPixel;
   if (index == PLANES) return kPlanes;
   if (index == LOGPIXELSY) return kPixelsPerInch;

@@ -1,6 +1,7 @@
 // GetDC, ReleaseDC, CreateCompatibleDC and DeleteDC.
 
 #include "platform/gdi.h"
+#include "platform/soft/draw_target.h"
 #include "platform/soft/object_table.h"
 
 namespace vorlex::gdi {
@@ -39,8 +40,6 @@ void DestroyDc(Handle handle) {
   table.Release(dc.font);
 }
 
-DeviceContext* FindDc(HDC dc) { return soft::Objects().Get<DeviceContext>(soft::ValueOf(dc)); }
-
 }  // namespace
 
 HDC GetDC(HWND hwnd) {
@@ -51,7 +50,7 @@ HDC GetDC(HWND hwnd) {
 
 int ReleaseDC(HWND, HDC dc) {
   const auto lock = soft::LockObjects();
-  const DeviceContext* context = FindDc(dc);
+  const DeviceContext* context = soft::FindDc(dc);
   if (context == nullptr || !context->screen) return 0;
   DestroyDc(soft::ValueOf(dc));
   return 1;
@@ -59,13 +58,13 @@ int ReleaseDC(HWND, HDC dc) {
 
 HDC CreateCompatibleDC(HDC dc) {
   const auto lock = soft::LockObjects();
-  if (dc != nullptr && FindDc(dc) == nullptr) return nullptr;
+  if (dc != nullptr && soft::FindDc(dc) == nullptr) return nullptr;
   return soft::HandleOf<HDC>(NewDc(false));
 }
 
 BOOL DeleteDC(HDC dc) {
   const auto lock = soft::LockObjects();
-  const DeviceContext* context = FindDc(dc);
+  const DeviceContext* context = soft::FindDc(dc);
   if (context == nullptr || context->screen) return soft::kFalse;  // the screen's DCs go back through ReleaseDC
   DestroyDc(soft::ValueOf(dc));
   return soft::kTrue;

@@ -9,12 +9,13 @@ Surface SurfaceOf(Bitmap& bitmap) {
   return {bitmap.width, bitmap.height, bitmap.pixels.data()};
 }
 
+DeviceContext* FindDc(HDC dc) { return Objects().Get<DeviceContext>(ValueOf(dc)); }
+
 std::optional<DrawTarget> FindTarget(HDC dc) {
-  ObjectTable& table = Objects();
-  DeviceContext* context = table.Get<DeviceContext>(ValueOf(dc));
+  DeviceContext* context = FindDc(dc);
   if (context == nullptr) return std::nullopt;
   DrawTarget target{context, {}};
-  if (Bitmap* bitmap = table.Get<Bitmap>(context->bitmap)) target.surface = SurfaceOf(*bitmap);
+  if (Bitmap* bitmap = Objects().Get<Bitmap>(context->bitmap)) target.surface = SurfaceOf(*bitmap);
   return target;
 }
 

@@ -16,7 +16,8 @@ struct DrawTarget {
 };
 
 Surface SurfaceOf(Bitmap& bitmap);
-// nullopt for anything but a live DC.
+// nullptr or nullopt for anything but a live DC.
+DeviceContext* FindDc(HDC dc);
 std::optional<DrawTarget> FindTarget(HDC dc);
 // The objects selected into a DC (never null for a live DC).
 const Pen* SelectedPen(const DeviceContext& dc);

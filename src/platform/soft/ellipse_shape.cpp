@@ -1,10 +1,10 @@
 #include "platform/soft/ellipse_shape.h"
 
-#include <algorithm>
 #include <optional>
 
 #include "platform/soft/brush_spans.h"
 #include "platform/soft/elliptic_region.h"
+#include "platform/soft/rectangle_frame.h"
 #include "platform/soft/spans.h"
 #include "platform/soft/thin_line.h"
 
@@ -16,8 +16,7 @@ namespace {
 // below) outside it. Only the rows on the surface are traced and painted, each
 // filled and then outlined.
 void PaintEllipse(const Surface& surface, const Box& box, const BrushSpans& fill, const Pen& pen) {
-  const int64_t firstRow = std::max<int64_t>(0, -box.top);
-  const int64_t endRow = std::min(box.Height(), surface.height - box.top);
+  const auto [firstRow, endRow] = RowsOnSurface(surface, box.top, box.Height());
   if (firstRow >= endRow) return;
   const EllipticRegion region(box.Width(), box.Height(), firstRow, endRow);
   const bool outlined = pen.style != PS_NULL;
@@ -34,29 +33,13 @@ void PaintEllipse(const Surface& surface, const Box& box, const BrushSpans& fill
   }
 }
 
-// The frame is the closed path around the edge pixels with the pen; the brush
-// fills inside it, or [left, right - 1) x [top, bottom - 1) with a null pen.
-void PaintRectangle(const Surface& surface, const Box& box, const BrushSpans& fill, const Pen& pen) {
-  if (pen.style == PS_NULL) {
-    fill.FillBox(surface, {box.left, box.top, box.right - 1, box.bottom - 1});
-    return;
-  }
-  fill.FillBox(surface, {box.left + 1, box.top + 1, box.right - 1, box.bottom - 1});
-  const uint32_t pixel = PixelOf(pen.color);
-  const int64_t right = box.right - 1;
-  const int64_t bottom = box.bottom - 1;
-  DrawThinLine(surface, box.left, box.top, right, box.top, pixel);
-  DrawThinLine(surface, right, box.top, right, bottom, pixel);
-  DrawThinLine(surface, right, bottom, box.left, bottom, pixel);
-  DrawThinLine(surface, box.left, bottom, box.left, box.top, pixel);
-}
-
 }  // namespace
 
 void DrawEllipse(const Surface& surface, const Box& box, const Brush& brush, const DeviceContext& dc, const Pen& pen) {
   const BrushSpans fill(brush, dc);
   if (box.Width() <= 2 || box.Height() <= 2) {
-    PaintRectangle(surface, box, fill, pen);
+    const auto fillBox = [&fill](const Surface& target, const Box& inside) { fill.FillBox(target, inside); };
+    DrawRectangleFrame(surface, box, pen, fillBox, DrawThinLine);
   } else {
     PaintEllipse(surface, box, fill, pen);
   }

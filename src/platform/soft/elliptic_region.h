@@ -72,12 +72,21 @@ class EllipticRegion {
   Rows lowerHalf_;
 };
 
+// Rows [first, end) of a box `height` rows high whose top row is at y = top:
+// those that lie on the surface (none when first >= end).
+struct BoxRows {
+  int64_t first;
+  int64_t end;
+};
+inline BoxRows RowsOnSurface(const Surface& surface, int64_t top, int64_t height) {
+  return {std::max<int64_t>(0, -top), std::min(height, surface.height - top)};
+}
+
 // Paints the region of the box whose left-top corner is (left, top), the rows
 // on the surface only.
 template <class Paint>
 void PaintRegion(const Surface& surface, const EllipticRegion& region, int64_t left, int64_t top, const Paint& paint) {
-  const int64_t firstRow = std::max<int64_t>(0, -top);
-  const int64_t endRow = std::min(region.Height(), surface.height - top);
+  const auto [firstRow, endRow] = RowsOnSurface(surface, top, region.Height());
   for (int64_t row = firstRow; row < endRow; ++row) {
     const std::optional<int64_t> first = region.First(row);
     if (first) PaintSpan(surface, top + row, left + *first, left + region.Width() - *first, paint);

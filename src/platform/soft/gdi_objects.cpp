@@ -5,6 +5,7 @@
 
 #include "platform/gdi.h"
 #include "platform/soft/brush_paint.h"
+#include "platform/soft/draw_target.h"
 #include "platform/soft/object_table.h"
 
 namespace vorlex::gdi {
@@ -46,7 +47,7 @@ Handle NewBitmap(int32_t width, int32_t height, int bitsPerPixel) {
 HBITMAP CreateCompatibleBitmap(HDC dc, int width, int height) {
   const auto lock = soft::LockObjects();
   soft::ObjectTable& table = soft::Objects();
-  const soft::DeviceContext* context = table.Get<soft::DeviceContext>(soft::ValueOf(dc));
+  const soft::DeviceContext* context = soft::FindDc(dc);
   if (context == nullptr) return nullptr;
   // A negative extent counts by its size, as gdi32 takes it.
   const int64_t columns = width < 0 ? -int64_t{width} : width;

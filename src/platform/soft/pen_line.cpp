@@ -5,14 +5,19 @@
 
 namespace vorlex::gdi::soft {
 
-void DrawPenLine(const Surface& surface, const Pen& pen, int64_t x0, int64_t y0, int64_t x1, int64_t y1) {
+void DrawPenLineWith(const Surface& surface, const Pen& pen, int64_t x0, int64_t y0, int64_t x1, int64_t y1,
+                     ThinLinePainter thin, WideLinePainter wide) {
   if (pen.style == PS_NULL) return;
   const uint32_t pixel = PixelOf(pen.color);
   if (pen.width <= 1) {
-    DrawThinLine(surface, x0, y0, x1, y1, pixel);
+    thin(surface, x0, y0, x1, y1, pixel);
   } else {
-    DrawWideLine(surface, x0, y0, x1, y1, pen.width, pixel);
+    wide(surface, x0, y0, x1, y1, pen.width, pixel);
   }
+}
+
+void DrawPenLine(const Surface& surface, const Pen& pen, int64_t x0, int64_t y0, int64_t x1, int64_t y1) {
+  DrawPenLineWith(surface, pen, x0, y0, x1, y1, DrawThinLine, DrawWideLine);
 }
 
 }  // namespace vorlex::gdi::soft

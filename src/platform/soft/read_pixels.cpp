@@ -1,6 +1,7 @@
 // ReadPixels and the object counts: what tests and exporters see.
 
 #include "platform/gdi.h"
+#include "platform/soft/draw_target.h"
 #include "platform/soft/object_table.h"
 
 namespace vorlex::gdi {
@@ -8,7 +9,7 @@ namespace vorlex::gdi {
 bool ReadPixels(HDC dc, Pixels& out) {
   const auto lock = soft::LockObjects();
   soft::ObjectTable& table = soft::Objects();
-  const soft::DeviceContext* context = table.Get<soft::DeviceContext>(soft::ValueOf(dc));
+  const soft::DeviceContext* context = soft::FindDc(dc);
   const soft::Bitmap* bitmap = context != nullptr ? table.Get<soft::Bitmap>(context->bitmap) : nullptr;
   if (bitmap == nullptr) {
     out = Pixels{};

@@ -1,8 +1,8 @@
-#include <algorithm>
 #include <optional>
 
 #include "platform/soft/brush_paint.h"
 #include "platform/soft/elliptic_region.h"
+#include "platform/soft/rectangle_frame.h"
 #include "platform/soft/reference.h"
 
 namespace vorlex::gdi::soft::reference {
@@ -16,8 +16,7 @@ void PaintEllipse(const Surface& surface, const Box& box, const BrushPaint& fill
   PaintRegion(surface, region, box.left, box.top, fill);
   if (pen.style == PS_NULL) return;
   const SolidPaint outline{PixelOf(pen.color)};
-  const int64_t firstRow = std::max<int64_t>(0, -box.top);
-  const int64_t endRow = std::min(region.Height(), surface.height - box.top);
+  const auto [firstRow, endRow] = RowsOnSurface(surface, box.top, region.Height());
   for (int64_t row = firstRow; row < endRow; ++row) {
     const std::optional<int64_t> first = region.First(row);
     if (!first) continue;
@@ -28,30 +27,13 @@ void PaintEllipse(const Surface& surface, const Box& box, const BrushPaint& fill
   }
 }
 
-// Boxes two pixels wide or high or less are drawn as Rectangle draws them: the
-// frame is the closed path around the edge pixels with the pen; the brush
-// fills inside it, or [left, right - 1) x [top, bottom - 1) with a null pen.
-void PaintRectangle(const Surface& surface, const Box& box, const BrushPaint& fill, const Pen& pen) {
-  if (pen.style == PS_NULL) {
-    PaintBox(surface, {box.left, box.top, box.right - 1, box.bottom - 1}, fill);
-    return;
-  }
-  PaintBox(surface, {box.left + 1, box.top + 1, box.right - 1, box.bottom - 1}, fill);
-  const uint32_t pixel = PixelOf(pen.color);
-  const int64_t right = box.right - 1;
-  const int64_t bottom = box.bottom - 1;
-  DrawThinLine(surface, box.left, box.top, right, box.top, pixel);
-  DrawThinLine(surface, right, box.top, right, bottom, pixel);
-  DrawThinLine(surface, right, bottom, box.left, bottom, pixel);
-  DrawThinLine(surface, box.left, bottom, box.left, box.top, pixel);
-}
-
 }  // namespace
 
 void DrawEllipse(const Surface& surface, const Box& box, const Brush& brush, const DeviceContext& dc, const Pen& pen) {
   const BrushPaint fill(brush, dc);
   if (box.Width() <= 2 || box.Height() <= 2) {
-    PaintRectangle(surface, box, fill, pen);
+    const auto fillBox = [&fill](const Surface& target, const Box& inside) { PaintBox(target, inside, fill); };
+    DrawRectangleFrame(surface, box, pen, fillBox, reference::DrawThinLine);
   } else {
     PaintEllipse(surface, box, fill, pen);
   }

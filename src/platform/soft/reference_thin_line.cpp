@@ -1,12 +1,10 @@
-#include <algorithm>
+#include <cstdint>
 
+#include "platform/soft/line_axes.h"
 #include "platform/soft/reference.h"
 
 namespace vorlex::gdi::soft::reference {
 namespace {
-
-int64_t Magnitude(int64_t value) { return value < 0 ? -value : value; }
-int Direction(int64_t value) { return value < 0 ? -1 : 1; }
 
 // round(step * minor / major) without overflow: the lengths of two 32-bit
 // coordinates' differences are below 2^32, so step * minor (step < major,
@@ -19,34 +17,11 @@ uint64_t MinorOffset(uint64_t step, uint64_t minor, uint64_t major, bool tieUp) 
   return quotient + (roundUp ? 1 : 0);
 }
 
-// Steps i in [0, count) whose coordinate start + direction * i lies in [0, limit).
-struct StepRange {
-  int64_t first;
-  int64_t end;
-};
-
-StepRange VisibleSteps(int64_t start, int direction, int64_t count, int64_t limit) {
-  if (direction > 0) return {std::max<int64_t>(0, -start), std::min(count, limit - start)};
-  return {std::max<int64_t>(0, start - limit + 1), std::min(count, start + 1)};
-}
-
-// One axis of the line: where it starts and which way it goes.
-struct Axis {
-  int64_t start;
-  int64_t length;
-  int direction;
-  int64_t limit;
-};
-
 }  // namespace
 
 void DrawThinLine(const Surface& surface, int64_t x0, int64_t y0, int64_t x1, int64_t y1, uint32_t pixel) {
   if (surface.Empty()) return;
-  const Axis xAxis{x0, Magnitude(x1 - x0), Direction(x1 - x0), surface.width};
-  const Axis yAxis{y0, Magnitude(y1 - y0), Direction(y1 - y0), surface.height};
-  const bool xMajor = xAxis.length >= yAxis.length;
-  const Axis& major = xMajor ? xAxis : yAxis;
-  const Axis& minor = xMajor ? yAxis : xAxis;
+  const auto [major, minor, xMajor] = AxesOf(surface, x0, y0, x1, y1);
   if (major.length == 0) return;
   // A tie takes the smaller minor coordinate: rounding the offset up does that
   // only when the minor axis runs towards smaller coordinates.

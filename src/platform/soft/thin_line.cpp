@@ -2,32 +2,11 @@
 
 #include <algorithm>
 
+#include "platform/soft/line_axes.h"
 #include "platform/soft/spans.h"
 
 namespace vorlex::gdi::soft {
 namespace {
-
-int64_t Magnitude(int64_t value) { return value < 0 ? -value : value; }
-int64_t Direction(int64_t value) { return value < 0 ? -1 : 1; }
-
-// Steps i in [0, count) whose coordinate start + direction * i lies in [0, limit).
-struct StepRange {
-  int64_t first;
-  int64_t end;
-};
-
-StepRange VisibleSteps(int64_t start, int64_t direction, int64_t count, int64_t limit) {
-  if (direction > 0) return {std::max<int64_t>(0, -start), std::min(count, limit - start)};
-  return {std::max<int64_t>(0, start - limit + 1), std::min(count, start + 1)};
-}
-
-// One axis of the line: where it starts and which way it goes.
-struct Axis {
-  int64_t start;
-  int64_t length;
-  int64_t direction;
-  int64_t limit;
-};
 
 // Steps [first, end) of the major axis, all at minor coordinate `across`
 // (both on the surface): one span of a row, or a stretch of a column.
@@ -145,11 +124,7 @@ void DrawSlanted(const Surface& surface, const Axis& major, const Axis& minor, b
 
 void DrawThinLine(const Surface& surface, int64_t x0, int64_t y0, int64_t x1, int64_t y1, uint32_t pixel) {
   if (surface.Empty()) return;
-  const Axis xAxis{x0, Magnitude(x1 - x0), Direction(x1 - x0), surface.width};
-  const Axis yAxis{y0, Magnitude(y1 - y0), Direction(y1 - y0), surface.height};
-  const bool xMajor = xAxis.length >= yAxis.length;
-  const Axis& major = xMajor ? xAxis : yAxis;
-  const Axis& minor = xMajor ? yAxis : xAxis;
+  const auto [major, minor, xMajor] = AxesOf(surface, x0, y0, x1, y1);
   if (major.length == 0) return;
   if (minor.length == 0) {
     DrawStraight(surface, major, minor.start, xMajor, pixel);

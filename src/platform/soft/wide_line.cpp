@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cmath>
 #include <optional>
 
 #include "platform/soft/box.h"
@@ -13,20 +12,18 @@
 namespace vorlex::gdi::soft {
 namespace {
 
-void PaintCap(const Surface& surface, int64_t x, int64_t y, int64_t width, uint32_t pixel) {
-  const int64_t left = x - width / 2;
-  const int64_t top = y - width / 2;
+void PaintCap(const Surface& surface, Corner p, int64_t width, uint32_t pixel) {
+  const Box cap = CapBox(p, width);
   if (width <= 2) {
-    FillSolidBox(surface, {left, top, left + width, top + width}, pixel);
+    FillSolidBox(surface, cap, pixel);
     return;
   }
-  const int64_t firstRow = std::max<int64_t>(0, -top);
-  const int64_t endRow = std::min(width, surface.height - top);
+  const auto [firstRow, endRow] = RowsOnSurface(surface, cap.top, width);
   if (firstRow >= endRow) return;
   const EllipticRegion region(width, width, firstRow, endRow);
   for (int64_t row = firstRow; row < endRow; ++row) {
     const std::optional<int64_t> first = region.First(row);
-    if (first) FillSolidSpan(surface, top + row, left + *first, left + width - *first, pixel);
+    if (first) FillSolidSpan(surface, cap.top + row, cap.left + *first, cap.right - *first, pixel);
   }
 }
 
@@ -64,14 +61,7 @@ Crossings CrossingsOf(const Quad& corners, int64_t y) {
 // Even-odd fill: pixel x of row y is in when its centre lies at or right of a
 // left crossing and left of the matching right crossing.
 void FillQuad(const Surface& surface, const Quad& corners, uint32_t pixel) {
-  int64_t top = corners[0].y;
-  int64_t bottom = corners[0].y;
-  for (const Corner& c : corners) {
-    top = std::min(top, c.y);
-    bottom = std::max(bottom, c.y);
-  }
-  const int64_t firstRow = std::max<int64_t>(top, 0);
-  const int64_t endRow = std::min(bottom, surface.height);
+  const auto [firstRow, endRow] = VisibleRowsOf(corners, surface.height);
   for (int64_t y = firstRow; y < endRow; ++y) {
     const Crossings row = CrossingsOf(corners, y);
     for (size_t i = 0; i + 1 < row.count; i += 2) {
@@ -80,30 +70,20 @@ void FillQuad(const Surface& surface, const Quad& corners, uint32_t pixel) {
   }
 }
 
-void PaintSlantedBody(const Surface& surface, Corner p0, Corner p1, int64_t width, uint32_t pixel) {
-  FillQuad(surface, SlantedBodyQuad(p0, p1, width), pixel);
-}
-
-void PaintBody(const Surface& surface, Corner p0, Corner p1, int64_t width, uint32_t pixel) {
-  if (p0.y == p1.y) {
-    const int64_t top = p0.y - width / 2;
-    FillSolidBox(surface, {std::min(p0.x, p1.x), top, std::max(p0.x, p1.x), top + width}, pixel);
-  } else if (p0.x == p1.x) {
-    const int64_t left = p0.x - width / 2;
-    FillSolidBox(surface, {left, std::min(p0.y, p1.y), left + width, std::max(p0.y, p1.y)}, pixel);
-  } else {
-    PaintSlantedBody(surface, p0, p1, width, pixel);
-  }
-}
-
 }  // namespace
 
 void DrawWideLine(const Surface& surface, int64_t x0, int64_t y0, int64_t x1, int64_t y1, int64_t width,
                   uint32_t pixel) {
   if (surface.Empty()) return;
-  PaintBody(surface, {x0, y0}, {x1, y1}, width, pixel);
-  PaintCap(surface, x0, y0, width, pixel);
-  PaintCap(surface, x1, y1, width, pixel);
+  const Corner p0{x0, y0};
+  const Corner p1{x1, y1};
+  if (const std::optional<Box> body = StraightBodyBox(p0, p1, width)) {
+    FillSolidBox(surface, *body, pixel);
+  } else {
+    FillQuad(surface, SlantedBodyQuad(p0, p1, width), pixel);
+  }
+  PaintCap(surface, p0, width, pixel);
+  PaintCap(surface, p1, width, pixel);
 }
 
 }  // namespace vorlex::gdi::soft

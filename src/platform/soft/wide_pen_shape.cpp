@@ -15,6 +15,18 @@ int64_t ToCoordinate(double value) {
 int64_t RoundHalfUp(double value) { return ToCoordinate(std::floor(value + 0.5)); }
 int64_t Ceil(double value) { return ToCoordinate(std::ceil(value)); }
 
+std::optional<Box> StraightBodyBox(Corner p0, Corner p1, int64_t width) {
+  if (p0.y == p1.y) {
+    const int64_t top = p0.y - width / 2;
+    return Box{std::min(p0.x, p1.x), top, std::max(p0.x, p1.x), top + width};
+  }
+  if (p0.x == p1.x) {
+    const int64_t left = p0.x - width / 2;
+    return Box{left, std::min(p0.y, p1.y), left + width, std::max(p0.y, p1.y)};
+  }
+  return std::nullopt;
+}
+
 Quad SlantedBodyQuad(Corner p0, Corner p1, int64_t width) {
   const double dx = static_cast<double>(p1.x - p0.x);
   const double dy = static_cast<double>(p1.y - p0.y);
@@ -32,6 +44,16 @@ Quad SlantedBodyQuad(Corner p0, Corner p1, int64_t width) {
            {p0.x + right.x, p0.y + right.y},
            {p1.x + right.x, p1.y + right.y},
            {p1.x + left.x, p1.y + left.y}}};
+}
+
+QuadRows VisibleRowsOf(const Quad& corners, int64_t surfaceHeight) {
+  int64_t top = corners[0].y;
+  int64_t bottom = corners[0].y;
+  for (const Corner& c : corners) {
+    top = std::min(top, c.y);
+    bottom = std::max(bottom, c.y);
+  }
+  return {std::max<int64_t>(top, 0), std::min(bottom, surfaceHeight)};
 }
 
 }  // namespace vorlex::gdi::soft

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "platform/gdi.h"
+#include "platform/soft/draw_target.h"
 #include "platform/soft/object_table.h"
 
 namespace vorlex::gdi {
@@ -10,7 +11,7 @@ namespace vorlex::gdi {
 bool WritePixels(HDC dc, const Pixels& pixels) {
   const auto lock = soft::LockObjects();
   soft::ObjectTable& table = soft::Objects();
-  const soft::DeviceContext* context = table.Get<soft::DeviceContext>(soft::ValueOf(dc));
+  const soft::DeviceContext* context = soft::FindDc(dc);
   soft::Bitmap* bitmap = context != nullptr ? table.Get<soft::Bitmap>(context->bitmap) : nullptr;
   if (bitmap == nullptr) return false;
   const int width = std::min(pixels.width, bitmap->width);

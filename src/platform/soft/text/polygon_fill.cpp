@@ -9,9 +9,10 @@ namespace {
 // The smallest integer not below num / den, den > 0.
 int64_t CeilDiv(int64_t num, int64_t den) { return num >= 0 ? (num + den - 1) / den : -((-num) / den); }
 
-// Where the edges cross row y: the first column at or right of each crossing.
-std::vector<int64_t> Crossings(std::span<const POINT> corners, int64_t y) {
-  std::vector<int64_t> xs;
+// Where the edges cross row y: the first column at or right of each crossing,
+// in `xs`, which keeps its storage from row to row.
+void FindCrossings(std::span<const POINT> corners, int64_t y, std::vector<int64_t>& xs) {
+  xs.clear();
   for (size_t i = 0; i < corners.size(); ++i) {
     const POINT a = corners[i];
     const POINT b = corners[(i + 1) % corners.size()];
@@ -22,7 +23,6 @@ std::vector<int64_t> Crossings(std::span<const POINT> corners, int64_t y) {
     xs.push_back(CeilDiv(int64_t{top.x} * dy + (y - top.y) * (int64_t{bottom.x} - top.x), dy));
   }
   std::sort(xs.begin(), xs.end());
-  return xs;
 }
 
 }  // namespace
@@ -34,8 +34,10 @@ void FillPolygon(const Surface& surface, std::span<const POINT> corners, const B
   const Box visible = Intersect(clip, BoundsOf(surface));
   const int64_t first = std::max<int64_t>(low->y, visible.top);
   const int64_t end = std::min<int64_t>(high->y, visible.bottom);
+  std::vector<int64_t> xs;
+  xs.reserve(corners.size());
   for (int64_t y = first; y < end; ++y) {
-    const std::vector<int64_t> xs = Crossings(corners, y);
+    FindCrossings(corners, y, xs);
     for (size_t i = 0; i + 1 < xs.size(); i += 2) {
       const int64_t left = std::max(xs[i], visible.left);
       const int64_t right = std::min(xs[i + 1], visible.right);

@@ -50,7 +50,7 @@ HFONT CreateFontIndirectA(const LOGFONTA* font) {
 
 BOOL GetTextExtentPoint32A(HDC dc, const char* text, int count, SIZE* size) {
   const auto lock = soft::LockObjects();
-  const soft::DeviceContext* context = soft::Objects().Get<soft::DeviceContext>(soft::ValueOf(dc));
+  const soft::DeviceContext* context = soft::FindDc(dc);
   if (context == nullptr || size == nullptr || count < 0 || (text == nullptr && count > 0)) return soft::kFalse;
   RealizedFont* font = SelectedFont(*context);
   if (font == nullptr) return soft::kFalse;
