@@ -118,17 +118,20 @@ Token ReadToken(const std::u32string& t, size_t p1, size_t p2) {
 }  // namespace
 
 std::string ExpandLiveText(const std::string& text, LiveTextContext& context) {
-  if (text.empty()) return text;
+  // Most texts have no token: the byte test spares decoding them on every redraw
+  // (the delimiter is ASCII, never part of a longer UTF-8 sequence).
+  if (text.find(static_cast<char>(kDelimiter)) == std::string::npos) return text;
   std::u32string t = DecodeUtf8(text);
   size_t p1 = Find(t, kDelimiter, 1);
   size_t p2 = p1 ? Find(t, kDelimiter, p1 + 1) : 0;
   // Only a first pair with something between it starts the expansion.
   if (p1 < 1 || p2 <= p1 + 1) return text;
+  const auto& tokens = Tokens();
   while (p1 != 0 && p2 != 0) {
     const Token token = ReadToken(t, p1, p2);
-    const auto found = Tokens().find(token.name);
+    const auto found = tokens.find(token.name);
     const std::u32string replacement =
-        found == Tokens().end() ? std::u32string() : DecodeUtf8(found->second(context, token.argument));
+        found == tokens.end() ? std::u32string() : DecodeUtf8(found->second(context, token.argument));
     t = t.substr(0, p1 - 1) + replacement + t.substr(p2);
     // The scan resumes one character past the replacement, skipping the
     // character that followed the closing delimiter.

@@ -2,6 +2,8 @@
 // caption, picture, then the blocks in two passes, into the off-screen surface,
 // and one copy to the window.
 
+#include <utility>
+
 #include "compose/geometry.h"
 #include "compose/live_text.h"
 #include "control/vorlex_impl.h"
@@ -52,14 +54,16 @@ void Vorlex::Impl::PaintBackground(const Layout& layout) {
   s.FillRectangle();
 }
 
-void Vorlex::Impl::PaintBorder(const Layout& layout) {
+// The control's frame and every rectangular block's: no style leaves the width
+// at 0, and a zero width draws as no style.
+void Vorlex::Impl::PaintBorder(int32_t style, int16_t width) {
   OffScreenDC& s = *offScreen;
-  if (borderStyle == vxNoneBorder) {
+  if (style == vxNoneBorder) {
     s.BorderWidth = 0;
     return;
   }
-  if (layout.border == 0) s.BorderStyle = vxNoneBorder;
-  s.BorderWidth = layout.border;
+  if (width == 0) s.BorderStyle = vxNoneBorder;
+  s.BorderWidth = width;
   s.DrawBorder();
 }
 
@@ -103,7 +107,7 @@ void Vorlex::Impl::PaintBlock(BlockDefinition& block, VARIANT_BOOL pass, const L
   if (block.BarLeft < 0 || block.BarRight < 0 || block.BarTop < 0 || block.BarBottom < 0) return;
   const BlockScale scale = UpdatePercentages(block, layout);
   LiveTextContext live{site.Disks(), site.Clock(), block, layout.hRange, layout.vRange};
-  const std::string text = ExpandLiveText(block.Text, live);
+  std::string text = ExpandLiveText(block.Text, live);
   BlockRectangle(block, layout, scale, rect);
 
   OffScreenDC& s = *offScreen;
@@ -126,7 +130,7 @@ void Vorlex::Impl::PaintBlock(BlockDefinition& block, VARIANT_BOOL pass, const L
     PaintPicture(block.Picture, block.PictureOffset, block.PictureTile, block.PictureAlignment);
   }
   if (!text.empty()) {
-    s.Text = text;
+    s.Text = std::move(text);
     s.TextAlignment = block.TextAlignment;
     s.TextOffset = block.TextOffset;
     s.TextColor = Shown(block.TextColor);
@@ -138,8 +142,8 @@ void Vorlex::Impl::PaintBlock(BlockDefinition& block, VARIANT_BOOL pass, const L
   }
 }
 
-// A circle has no border; a rectangle's border is forced to one pixel for the
-// etched and bump looks.
+// A circle has no border; a rectangle's is one pixel for the etched and bump
+// looks, as the control's own.
 void Vorlex::Impl::PaintBlockShape(const BlockDefinition& block) {
   OffScreenDC& s = *offScreen;
   if (block.ShapeStyle == vxCircle) {
@@ -147,13 +151,7 @@ void Vorlex::Impl::PaintBlockShape(const BlockDefinition& block) {
     return;
   }
   s.FillRectangle();
-  if (block.BorderStyle == vxNoneBorder) {
-    s.BorderWidth = 0;
-    return;
-  }
-  s.BorderWidth = block.BorderStyle >= vxEtched && block.BorderWidth >= 1 ? int16_t{1} : block.BorderWidth;
-  if (block.BorderWidth == 0) s.BorderStyle = vxNoneBorder;
-  s.DrawBorder();
+  PaintBorder(block.BorderStyle, EffectiveBorderWidth(block.BorderStyle, block.BorderWidth));
 }
 
 void Vorlex::Impl::RedrawBar() {
@@ -173,7 +171,7 @@ void Vorlex::Impl::RedrawBar() {
   vUnitSize = layout.vUnitSize;
 
   PaintBackground(layout);
-  PaintBorder(layout);
+  PaintBorder(borderStyle, layout.border);
   PaintCaption();
   OffScreenDC& s = *offScreen;
   s.Left = layout.border;

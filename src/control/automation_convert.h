@@ -2,7 +2,6 @@
 // Between tagged values and the C++ types of the control's members, one rule
 // per interface type.
 
-#include <cmath>
 #include <memory>
 #include <string>
 
@@ -10,6 +9,7 @@
 #include "vorlex/AutomationError.h"
 #include "vorlex/Color.h"
 #include "vorlex/Font.h"
+#include "vorlex/Numeric.h"
 #include "vorlex/Picture.h"
 
 namespace vorlex {
@@ -55,7 +55,7 @@ struct Convert<TypeKind::Color> {
   using Type = OLE_COLOR;
   static OLE_COLOR From(const Variant& v) {
     if (v.Type() == VarType::Single || v.Type() == VarType::Double || v.IsString()) {
-      const double d = std::nearbyint(v.ToDouble());
+      const double d = RoundHalfEven(v.ToDouble());
       if (d > 2147483647.0 && d <= 4294967295.0) return static_cast<OLE_COLOR>(d);
     }
     return static_cast<OLE_COLOR>(v.ToLong());

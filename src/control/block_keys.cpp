@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "vorlex/AutomationError.h"
+#include "control/automation_convert.h"
 
 namespace vorlex {
 
@@ -92,18 +92,6 @@ Variant BlockFieldValue(const BlockKey& key, const BlockDefinition& block) {
   return {};
 }
 
-namespace {
-// A tagged object as the field's class; error 13 for any other object.
-template <class T>
-std::shared_ptr<T> ObjectAs(const Variant& value) {
-  std::shared_ptr<Object> object = value.ToObject();
-  if (!object) return nullptr;
-  auto typed = std::dynamic_pointer_cast<T>(object);
-  if (!typed) RaiseError(kErrTypeMismatch);
-  return typed;
-}
-}  // namespace
-
 void StoreBlockField(const BlockKey& key, BlockDefinition& block, const Variant& value) {
   switch (key.kind) {
     case K::Text:
@@ -119,10 +107,10 @@ void StoreBlockField(const BlockKey& key, BlockDefinition& block, const Variant&
       block.*std::get<int16_t B::*>(key.field) = value.ToBoolean();
       return;
     case K::Font:
-      block.*std::get<FontPtr B::*>(key.field) = ObjectAs<vorlex::Font>(value);
+      block.*std::get<FontPtr B::*>(key.field) = ObjectFrom<vorlex::Font>(value);
       return;
     case K::Picture:
-      block.*std::get<PicturePtr B::*>(key.field) = ObjectAs<vorlex::Picture>(value);
+      block.*std::get<PicturePtr B::*>(key.field) = ObjectFrom<vorlex::Picture>(value);
       return;
   }
 }

@@ -2,6 +2,7 @@
 // order, kinds and defaults are the saved format; loading stores straight into
 // the fields, without setters or notifications, except where noted.
 
+#include "control/automation_convert.h"
 #include "control/block_keys.h"
 #include "control/vorlex_impl.h"
 #include "vorlex/AutomationError.h"
@@ -50,21 +51,6 @@ void ReadBlocks(Vorlex::Impl& m, PropertyBag& bag) {
       StoreBlockField(key, block, bag.ReadProperty(BlockKeyName(key.prefix, i), BlockKeyDefault(key, ambient)));
     }
   }
-}
-
-// A bag value as the control's font; error 13 for another kind of object.
-FontPtr FontOf(const Variant& value) {
-  std::shared_ptr<Object> object = value.ToObject();
-  auto font = std::dynamic_pointer_cast<Font>(object);
-  if (object && !font) RaiseError(kErrTypeMismatch);
-  return font;
-}
-
-PicturePtr PictureOf(const Variant& value) {
-  std::shared_ptr<Object> object = value.ToObject();
-  auto picture = std::dynamic_pointer_cast<Picture>(object);
-  if (object && !picture) RaiseError(kErrTypeMismatch);
-  return picture;
 }
 
 OLE_COLOR ColorOf(const Variant& value) { return static_cast<OLE_COLOR>(value.ToLong()); }
@@ -131,7 +117,7 @@ void Vorlex::UserControl_ReadProperties(PropertyBag& bag) {
   m.site.SetForeColor(ColorOf(bag.ReadProperty("ForeColor", Color(0x80000012))));
   m.site.SetEnabled(bag.ReadProperty("Enabled", Bool(VARIANT_TRUE)).ToBoolean());
   // Through the setter, so that the surface gets the font too.
-  putref_Font(FontOf(bag.ReadProperty("Font", Obj(m.site.AmbientFont()))));
+  putref_Font(ObjectFrom<vorlex::Font>(bag.ReadProperty("Font", Obj(m.site.AmbientFont()))));
   m.indexBlock = bag.ReadProperty("IndexBlock", Int(0)).ToInteger();
   m.borderStyle = bag.ReadProperty("BorderStyle", Lng(vxInset)).ToLong();
   m.borderWidth = bag.ReadProperty("BorderWidth", Int(1)).ToInteger();
@@ -168,7 +154,7 @@ void Vorlex::UserControl_ReadProperties(PropertyBag& bag) {
   m.gradientGranularity = bag.ReadProperty("GradientGranularity", Lng(0)).ToLong();
   m.gradientColor = ColorOf(bag.ReadProperty("GradientColor", Color(0xFF0000)));
   m.gradientColorEnd = ColorOf(bag.ReadProperty("GradientColorEnd", Color(kBlack)));
-  m.picture = PictureOf(bag.ReadProperty("Picture", Obj(nullptr)));
+  m.picture = ObjectFrom<vorlex::Picture>(bag.ReadProperty("Picture", Obj(nullptr)));
   m.pictureAutoSize = bag.ReadProperty("PictureAutoSize", Lng(0)).ToLong();
   m.pictureTile = bag.ReadProperty("PictureTile", Lng(0)).ToLong();
   m.pictureOffset = bag.ReadProperty("PictureOffset", Int(3)).ToInteger();

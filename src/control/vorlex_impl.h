@@ -84,7 +84,7 @@ struct Vorlex::Impl {
   OLE_COLOR Shown(OLE_COLOR color) const;
   void AutoSizeToPicture(int16_t border);
   void PaintBackground(const Layout& layout);
-  void PaintBorder(const Layout& layout);
+  void PaintBorder(int32_t style, int16_t width);
   void PaintCaption();
   void PaintPicture(const PicturePtr& shown, int16_t offset, int32_t tile, int32_t alignment);
   void PaintBlocks(const Layout& layout);

@@ -60,8 +60,7 @@ bool ThreeDCopy(int32_t font3D, CopyLook& look) {
 void OffScreenDC::DisplayText() {
   if (Text.empty()) return;
   if (!TextFont) RaiseError(kErrObjectNotSet);
-  const int32_t inset = RivetsStyle != vxNoneRivets ? 7 : 0;
-  const Area a{CheckedAdd(Left, inset), CheckedAdd(Top, inset), CheckedSub(Right, inset), CheckedSub(Bottom, inset)};
+  const Area a = ClearOfRivets();
   const float angle = TextAngleFor(TextAutoAngle, TextAngle, a);
 
   // Angle 0 uses the font's own handle; any other angle a font made for it.

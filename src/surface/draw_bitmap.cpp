@@ -22,9 +22,7 @@ int32_t Piece(int32_t d, int32_t size, int32_t extent) {
 }  // namespace
 
 void OffScreenDC::DrawBitmap(const DrawingTarget& oPicture) {
-  // Keeps clear of the rivets; the inset deliberately ignores BorderWidth.
-  const int32_t inset = RivetsStyle != vxNoneRivets ? 7 : 0;
-  const Area a{CheckedAdd(Left, inset), CheckedAdd(Top, inset), CheckedSub(Right, inset), CheckedSub(Bottom, inset)};
+  const Area a = ClearOfRivets();
   const int32_t aw = Extent(a.l, a.r);
   const int32_t ah = Extent(a.t, a.b);
   // A picture larger than the area is cropped to its top-left part.

@@ -10,9 +10,9 @@ gdi::HBRUSH CreateFillBrush(int32_t brushStyle, OLE_COLOR hatchColor, OLE_COLOR 
 }
 
 void FillShape(gdi::HDC dc, bool isEllipse, const gdi::RECT& rect, int32_t brushStyle, OLE_COLOR hatchColor,
-               OLE_COLOR color) {
+               OLE_COLOR color, bool outlined) {
   GdiObject<gdi::HBRUSH> brush(CreateFillBrush(brushStyle, hatchColor, color));
-  GdiObject<gdi::HPEN> pen(gdi::CreatePen(gdi::PS_NULL, 0, color));
+  GdiObject<gdi::HPEN> pen(outlined ? gdi::CreatePen(gdi::PS_SOLID, 1, color) : gdi::CreatePen(gdi::PS_NULL, 0, color));
   if (!pen) return;
   Selection penSelected(dc, pen.get());
   if (!penSelected || !brush) return;

@@ -51,6 +51,11 @@ void OffScreenDC::PaintGradient() {
   vorlex::PaintGradient(job);
 }
 
+Area OffScreenDC::ClearOfRivets() const {
+  const int32_t inset = RivetsStyle != vxNoneRivets ? 7 : 0;
+  return {CheckedAdd(Left, inset), CheckedAdd(Top, inset), CheckedSub(Right, inset), CheckedSub(Bottom, inset)};
+}
+
 void OffScreenDC::DrawRivets() {
   const int32_t i = CheckedAdd(BorderWidth, int16_t{7});
   DrawRivet(CheckedAdd(Left, i), CheckedAdd(Top, i));
@@ -81,17 +86,7 @@ void OffScreenDC::DrawRivet(int32_t x, int32_t y) {
 }
 
 // No gradient and no rivets: an ellipse with its outline in BackgroundColor.
-void OffScreenDC::FillEllipse() {
-  GdiObject<gdi::HBRUSH> brush(CreateFillBrush(BrushStyle, BrushColor, BackgroundColor));
-  GdiObject<gdi::HPEN> pen(gdi::CreatePen(gdi::PS_SOLID, 1, BackgroundColor));
-  if (!pen) return;
-  Selection penSelected(memoryDC_, pen.get());
-  if (!penSelected || !brush) return;
-  BackgroundMode opaque(memoryDC_, gdi::OPAQUE);
-  gdi::SetBkColor(memoryDC_, BackgroundColor);
-  Selection brushSelected(memoryDC_, brush.get());
-  gdi::Ellipse(memoryDC_, Left, Top, Right, Bottom);
-}
+void OffScreenDC::FillEllipse() { FillShape(memoryDC_, true, Rect(), BrushStyle, BrushColor, BackgroundColor, true); }
 
 void OffScreenDC::DrawFocusRect() {
   const gdi::RECT rect = Rect();

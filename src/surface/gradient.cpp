@@ -43,23 +43,29 @@ void PaintBand(gdi::HDC dc, int16_t style, const gdi::RECT& band, OLE_COLOR colo
   }
 }
 
+// A band moving along one axis: on past its far edge, or back before its near one.
+void StepOn(float& nearEdge, float& farEdge, float step) {
+  nearEdge = farEdge;
+  farEdge = farEdge + step;
+}
+void StepBack(float& nearEdge, float& farEdge, float step) {
+  nearEdge = nearEdge - step;
+  farEdge = nearEdge + step;
+}
+
 void AdvanceBand(GradientStripeRequest& r) {
   switch (r.style) {
     case vxLeftHGradient:
-      r.left = r.right;
-      r.right = r.right + r.stepWidth;
+      StepOn(r.left, r.right, r.stepWidth);
       break;
     case vxRightHGradient:
-      r.left = r.left - r.stepWidth;
-      r.right = r.left + r.stepWidth;
+      StepBack(r.left, r.right, r.stepWidth);
       break;
     case vxTopVGradient:
-      r.top = r.bottom;
-      r.bottom = r.bottom + r.stepHeight;
+      StepOn(r.top, r.bottom, r.stepHeight);
       break;
     case vxBottomVGradient:
-      r.top = r.top - r.stepHeight;
-      r.bottom = r.top + r.stepHeight;
+      StepBack(r.top, r.bottom, r.stepHeight);
       break;
     default:  // rings and nested rectangles shrink
       r.left = r.left + r.stepWidth;

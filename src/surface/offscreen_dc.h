@@ -7,6 +7,7 @@
 #include <string>
 
 #include "platform/gdi.h"
+#include "surface/alignment.h"
 #include "surface/display_depth.h"
 #include "surface/drawing_target.h"
 #include "vorlex/Color.h"
@@ -86,6 +87,9 @@ class OffScreenDC {
 
  private:
   gdi::RECT Rect() const { return {Left, Top, Right, Bottom}; }
+  // The rectangle less 7 pixels on each side when there are rivets; the inset
+  // deliberately ignores BorderWidth.
+  Area ClearOfRivets() const;
   void ReadDisplayDepth() { depth_ = DisplayDepth::Read(memoryDC_); }
   void PaintGradient();
   void DrawRivets();
