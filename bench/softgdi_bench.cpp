@@ -7,6 +7,7 @@
 
 #include <cstdint>
 
+#include "memory_bitmap.h"
 #include "platform/gdi.h"
 
 namespace {
@@ -20,38 +21,23 @@ constexpr int kHeight = 64;
 // into it is put back and deleted at the end.
 class Bitmap {
  public:
-  Bitmap() {
-    screen_ = gdi::GetDC(nullptr);
-    dc_ = gdi::CreateCompatibleDC(screen_);
-    bitmap_ = gdi::CreateCompatibleBitmap(screen_, kWidth, kHeight);
-    previousBitmap_ = gdi::SelectObject(dc_, bitmap_);
-  }
   ~Bitmap() {
-    if (pen_ != nullptr) gdi::DeleteObject(gdi::SelectObject(dc_, previousPen_));
-    if (brush_ != nullptr) gdi::DeleteObject(gdi::SelectObject(dc_, previousBrush_));
-    gdi::SelectObject(dc_, previousBitmap_);
-    gdi::DeleteObject(bitmap_);
-    gdi::DeleteDC(dc_);
-    gdi::ReleaseDC(nullptr, screen_);
+    if (pen_ != nullptr) gdi::DeleteObject(gdi::SelectObject(dc(), previousPen_));
+    if (brush_ != nullptr) gdi::DeleteObject(gdi::SelectObject(dc(), previousBrush_));
   }
-  Bitmap(const Bitmap&) = delete;
-  Bitmap& operator=(const Bitmap&) = delete;
 
-  gdi::HDC dc() const { return dc_; }
+  gdi::HDC dc() const { return memory_.dc(); }
   void UsePen(gdi::HPEN pen) {
     pen_ = pen;
-    previousPen_ = gdi::SelectObject(dc_, pen);
+    previousPen_ = gdi::SelectObject(dc(), pen);
   }
   void UseBrush(gdi::HBRUSH brush) {
     brush_ = brush;
-    previousBrush_ = gdi::SelectObject(dc_, brush);
+    previousBrush_ = gdi::SelectObject(dc(), brush);
   }
 
  private:
-  gdi::HDC screen_ = nullptr;
-  gdi::HDC dc_ = nullptr;
-  gdi::HBITMAP bitmap_ = nullptr;
-  gdi::HGDIOBJ previousBitmap_ = nullptr;
+  vorlex::testing::MemoryBitmap memory_{kWidth, kHeight};
   gdi::HPEN pen_ = nullptr;
   gdi::HGDIOBJ previousPen_ = nullptr;
   gdi::HBRUSH brush_ = nullptr;

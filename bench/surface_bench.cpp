@@ -9,15 +9,16 @@
 #include <memory>
 #include <vector>
 
+#include "memory_bitmap.h"
 #include "platform/gdi.h"
-#include "surface/drawing_target.h"
 #include "surface/offscreen_dc.h"
 #include "vorlex/Font.h"
 
 namespace {
 
-using vorlex::DrawingTarget;
 using vorlex::OffScreenDC;
+using vorlex::testing::MemoryBitmap;
+using vorlex::testing::PictureBox;
 namespace gdi = vorlex::gdi;
 
 constexpr int32_t kWidth = 800;
@@ -27,11 +28,7 @@ constexpr int32_t kHeight = 64;
 class Bar {
  public:
   Bar() {
-    screen_ = gdi::GetDC(nullptr);
-    window_ = gdi::CreateCompatibleDC(screen_);
-    bitmap_ = gdi::CreateCompatibleBitmap(screen_, kWidth, kHeight);
-    previous_ = gdi::SelectObject(window_, bitmap_);
-    gdi::HDC control = window_;
+    gdi::HDC control = window_.dc();
     int32_t w = kWidth;
     int32_t h = kHeight;
     surface.Initialize(control, w, h);
@@ -42,19 +39,10 @@ class Bar {
     surface.GradientColor = 0xFF0000;
     surface.GradientColorEnd = 0x00FFFF;
   }
-  ~Bar() {
-    gdi::SelectObject(window_, previous_);
-    gdi::DeleteObject(bitmap_);
-    gdi::DeleteDC(window_);
-    gdi::ReleaseDC(nullptr, screen_);
-  }
   OffScreenDC surface;
 
  private:
-  gdi::HDC screen_;
-  gdi::HDC window_;
-  gdi::HBITMAP bitmap_;
-  gdi::HGDIOBJ previous_;
+  MemoryBitmap window_{kWidth, kHeight};  // declared after surface: goes first
 };
 
 void BM_StdFillYardstick(benchmark::State& state) {
@@ -108,43 +96,19 @@ void BM_DisplayText(benchmark::State& state) {
 }
 BENCHMARK(BM_DisplayText)->Arg(0)->Arg(90);
 
-// A picture box holding a 16 x 16 picture at pixel scale.
-class PictureBox : public DrawingTarget {
- public:
-  PictureBox() {
-    screen_ = gdi::GetDC(nullptr);
-    dc_ = gdi::CreateCompatibleDC(screen_);
-    bitmap_ = gdi::CreateCompatibleBitmap(screen_, kSide, kSide);
-    previous_ = gdi::SelectObject(dc_, bitmap_);
-    gdi::Pixels pixels;
-    pixels.width = pixels.height = kSide;
-    for (uint32_t i = 0; i < kSide * kSide; ++i) pixels.argb.push_back(i * 0x010305u);
-    gdi::WritePixels(dc_, pixels);
-  }
-  ~PictureBox() override {
-    gdi::SelectObject(dc_, previous_);
-    gdi::DeleteObject(bitmap_);
-    gdi::DeleteDC(dc_);
-    gdi::ReleaseDC(nullptr, screen_);
-  }
-  gdi::HDC hDC() const override { return dc_; }
-  float ScaleLeft() const override { return 0; }
-  float ScaleTop() const override { return 0; }
-  float ScaleWidth() const override { return kSide; }
-  float ScaleHeight() const override { return kSide; }
-
- private:
-  static constexpr int kSide = 16;
-  gdi::HDC screen_;
-  gdi::HDC dc_;
-  gdi::HBITMAP bitmap_;
-  gdi::HGDIOBJ previous_;
-};
+// A 16 x 16 picture, for a picture box at pixel scale.
+gdi::Pixels SmallPicture() {
+  constexpr int kSide = 16;
+  gdi::Pixels pixels;
+  pixels.width = pixels.height = kSide;
+  for (uint32_t i = 0; i < kSide * kSide; ++i) pixels.argb.push_back(i * 0x010305u);
+  return pixels;
+}
 
 // The picture tiled both ways over the whole bar: 50 x 4 copies.
 void BM_DrawBitmapTiled(benchmark::State& state) {
   Bar bar;
-  PictureBox picture;
+  const PictureBox picture(SmallPicture());
   bar.surface.PictureTile = 3;  // vxBothTile
   for (auto _ : state) bar.surface.DrawBitmap(picture);
 }

@@ -23,6 +23,7 @@
 #include "result_text.h"
 #include "source.h"
 #include "statement.h"
+#include "tool_run.h"
 #include "vorlex/AutomationError.h"
 #include "vorlex/Font.h"
 #include "vorlex/HeadlessSite.h"
@@ -31,6 +32,7 @@
 
 using namespace vorlex;
 using namespace vorlex::cli;
+using namespace vorlex::tool_test;
 
 namespace {
 
@@ -51,28 +53,6 @@ class Eval : public ::testing::Test {
   HeadlessSite site{60, 21};
   Vorlex control{site};
 };
-
-struct CommandResult {
-  int status;
-  std::string out;
-  std::string err;
-};
-
-CommandResult RunTool(std::initializer_list<const char*> args) {
-  std::ostringstream out;
-  std::ostringstream err;
-  const int status = RunCommandLine(std::vector<std::string>(args.begin(), args.end()), out, err);
-  return {status, out.str(), err.str()};
-}
-
-std::string UsageProblem(std::initializer_list<const char*> args) {
-  try {
-    ParseOptions(std::vector<std::string>(args.begin(), args.end()));
-  } catch (const UsageError& error) {
-    return error.what();
-  }
-  return "(accepted)";
-}
 
 std::ptrdiff_t Lines(const std::string& text) { return std::count(text.begin(), text.end(), '\n'); }
 

@@ -8,46 +8,23 @@
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
-#include <initializer_list>
 #include <iterator>
 #include <map>
-#include <sstream>
 #include <string>
 #include <vector>
 
-#include "command_line.h"
 #include "demo.h"
 #include "option_values.h"
 #include "options.h"
 #include "source.h"
+#include "tool_run.h"
 #include "vorlex/DiskService.h"
 
 using namespace vorlex;
 using namespace vorlex::cli;
+using namespace vorlex::tool_test;
 
 namespace {
-
-struct CommandResult {
-  int status;
-  std::string out;
-  std::string err;
-};
-
-CommandResult RunTool(const std::vector<std::string>& args) {
-  std::ostringstream out;
-  std::ostringstream err;
-  const int status = RunCommandLine(args, out, err);
-  return {status, out.str(), err.str()};
-}
-
-std::string UsageProblem(const std::vector<std::string>& args) {
-  try {
-    ParseOptions(args);
-  } catch (const UsageError& error) {
-    return error.what();
-  }
-  return "(accepted)";
-}
 
 // A file name in the temporary folder, removed afterwards.
 class TempFile {

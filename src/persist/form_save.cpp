@@ -20,11 +20,15 @@ namespace {
 constexpr const char* kEol = "\r\n";
 constexpr std::string_view kStdFontClass = "{0BE35203-8F91-11CE-9DE3-00AA004BB851}";
 
-std::string KeyColumn(const std::string& key, size_t indent) {
+// "Key = value" with the key padded to 16 columns after the indent.
+std::string KeyLine(const std::string& key, size_t indent, const std::string& value) {
   std::string line(indent, ' ');
   line += key;
   if (key.size() < 16) line.append(16 - key.size(), ' ');
-  return line + "=   ";
+  line += "=   ";
+  line += value;
+  line += kEol;
+  return line;
 }
 
 std::string Quoted(const std::string& text) {
@@ -101,23 +105,31 @@ class FormWriter {
   }
 
   std::string Entry(const PropertyEntry& entry) {
-    const Variant& v = entry.value;
-    switch (v.Type()) {
+    switch (entry.value.Type()) {
       case VarType::Object:
-        return ObjectEntry(entry.name, v.ToObject());
-      case VarType::String:
-        return KeyColumn(entry.name, 3) + TextValue(v.ToString()) + kEol;
-      case VarType::Boolean:
-        return KeyColumn(entry.name, 3) + BooleanText(v.ToInteger()) + kEol;
-      case VarType::Long:
-        if (entry.name.find("Color") != std::string::npos) return KeyColumn(entry.name, 3) + HexLong(v.ToLong()) + kEol;
-        return KeyColumn(entry.name, 3) + v.ToString() + kEol;
+        return ObjectEntry(entry.name, entry.value.ToObject());
       case VarType::Empty:
       case VarType::Missing:
         return {};
       default:
-        return KeyColumn(entry.name, 3) + v.ToString() + kEol;
+        return KeyLine(entry.name, 3, ValueText(entry));
     }
+  }
+
+  std::string ValueText(const PropertyEntry& entry) {
+    const Variant& v = entry.value;
+    switch (v.Type()) {
+      case VarType::String:
+        return TextValue(v.ToString());
+      case VarType::Boolean:
+        return BooleanText(v.ToInteger());
+      case VarType::Long:
+        if (entry.name.find("Color") != std::string::npos) return HexLong(v.ToLong());
+        break;
+      default:
+        break;
+    }
+    return v.ToString();
   }
 
   std::string TextValue(const std::string& text) {
@@ -131,20 +143,20 @@ class FormWriter {
     if (const auto* font = dynamic_cast<const Font*>(object.get())) return FontEntry(key, *font);
     if (const auto* picture = dynamic_cast<const Picture*>(object.get())) {
       const std::string file = PictureEntry(key, *picture);
-      return file.empty() ? std::string() : KeyColumn(key, 3) + Quoted(file) + kEol;
+      return file.empty() ? std::string() : KeyLine(key, 3, Quoted(file));
     }
     return {};
   }
 
   static std::string FontEntry(const std::string& key, const Font& font) {
     std::string text = "   BeginProperty " + key + " " + std::string(kStdFontClass) + kEol;
-    text += KeyColumn("Name", 6) + Quoted(font.Name()) + kEol;
-    text += KeyColumn("Size", 6) + FormatNumber(font.Size()) + kEol;
-    text += KeyColumn("Charset", 6) + std::to_string(font.Charset()) + kEol;
-    text += KeyColumn("Weight", 6) + std::to_string(font.Weight()) + kEol;
-    text += KeyColumn("Underline", 6) + BooleanText(ToVariantBool(font.Underline())) + kEol;
-    text += KeyColumn("Italic", 6) + BooleanText(ToVariantBool(font.Italic())) + kEol;
-    text += KeyColumn("Strikethrough", 6) + BooleanText(ToVariantBool(font.Strikethrough())) + kEol;
+    text += KeyLine("Name", 6, Quoted(font.Name()));
+    text += KeyLine("Size", 6, FormatNumber(font.Size()));
+    text += KeyLine("Charset", 6, std::to_string(font.Charset()));
+    text += KeyLine("Weight", 6, std::to_string(font.Weight()));
+    text += KeyLine("Underline", 6, BooleanText(ToVariantBool(font.Underline())));
+    text += KeyLine("Italic", 6, BooleanText(ToVariantBool(font.Italic())));
+    text += KeyLine("Strikethrough", 6, BooleanText(ToVariantBool(font.Strikethrough())));
     return text + "   EndProperty" + kEol;
   }
 

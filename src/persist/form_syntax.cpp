@@ -2,7 +2,7 @@
 
 #include "persist/form_syntax.h"
 
-#include <cctype>
+#include "control/numeric_text.h"
 
 namespace vorlex::form {
 
@@ -14,14 +14,6 @@ std::string_view Trim(std::string_view s) {
   while (!s.empty() && (IsBlank(s.front()) || s.front() == '\r')) s.remove_prefix(1);
   while (!s.empty() && (IsBlank(s.back()) || s.back() == '\r')) s.remove_suffix(1);
   return s;
-}
-
-bool SameWord(std::string_view a, std::string_view b) {
-  if (a.size() != b.size()) return false;
-  for (size_t i = 0; i < a.size(); ++i) {
-    if (std::tolower(static_cast<unsigned char>(a[i])) != std::tolower(static_cast<unsigned char>(b[i]))) return false;
-  }
-  return true;
 }
 
 // The first word of a line: up to a blank or "=".
@@ -76,21 +68,21 @@ int16_t Integer(const Value& v, const std::string& member, int line) {
 }
 
 void SetFontMember(FontMembers& font, const std::string& member, const Value& v, int line) {
-  if (SameWord(member, "Name")) {
+  if (EqualsIgnoringCase(member, "Name")) {
     if (v.kind != Value::Kind::Text) throw SyntaxError(line, "font Name needs a quoted string");
     font.name = v.text;
-  } else if (SameWord(member, "Size")) {
+  } else if (EqualsIgnoringCase(member, "Size")) {
     font.size = Number(v, member, line);
     if (!(font.size >= -1e9 && font.size <= 1e9)) throw SyntaxError(line, "font Size out of range");
-  } else if (SameWord(member, "Charset")) {
+  } else if (EqualsIgnoringCase(member, "Charset")) {
     font.charset = Integer(v, member, line);
-  } else if (SameWord(member, "Weight")) {
+  } else if (EqualsIgnoringCase(member, "Weight")) {
     font.weight = Integer(v, member, line);
-  } else if (SameWord(member, "Underline")) {
+  } else if (EqualsIgnoringCase(member, "Underline")) {
     font.underline = Truth(v, member, line);
-  } else if (SameWord(member, "Italic")) {
+  } else if (EqualsIgnoringCase(member, "Italic")) {
     font.italic = Truth(v, member, line);
-  } else if (SameWord(member, "Strikethrough")) {
+  } else if (EqualsIgnoringCase(member, "Strikethrough")) {
     font.strikethrough = Truth(v, member, line);
   } else {
     throw SyntaxError(line, "unknown font member " + member);
@@ -137,10 +129,10 @@ class Parser {
     const std::string_view word = FirstWord(line_);
     if (fontLine_ != 0) return FontLine(word);
     if (skippedProperties_ > 0) return SkippedLine(word);
-    if (SameWord(word, "Begin")) return Begin();
-    if (SameWord(word, "End")) return End();
-    if (SameWord(word, "BeginProperty")) return BeginProperty();
-    if (SameWord(word, "EndProperty")) {
+    if (EqualsIgnoringCase(word, "Begin")) return Begin();
+    if (EqualsIgnoringCase(word, "End")) return End();
+    if (EqualsIgnoringCase(word, "BeginProperty")) return BeginProperty();
+    if (EqualsIgnoringCase(word, "EndProperty")) {
       if (InVorlex()) throw SyntaxError(number_, "EndProperty without BeginProperty");
       return;
     }
@@ -158,7 +150,7 @@ class Parser {
     if (open_.empty() && (words.empty() || words[0].find_first_of(".{") == std::string_view::npos)) return;
     Open block{words.empty() ? std::string() : std::string(words[0]),
                words.size() > 1 ? std::string(words[1]) : std::string(), number_, -1};
-    if (SameWord(block.type, kVorlexType)) {
+    if (EqualsIgnoringCase(block.type, kVorlexType)) {
       if (words.size() != 2) throw SyntaxError(number_, "expected Begin VorlexLib.Vorlex Name");
       block.control = static_cast<int>(found_.size());
       found_.push_back({block.name, number_, {}});
@@ -183,7 +175,7 @@ class Parser {
   }
 
   void FontLine(std::string_view word) {
-    if (SameWord(word, "EndProperty")) {
+    if (EqualsIgnoringCase(word, "EndProperty")) {
       Value value;
       value.kind = Value::Kind::Font;
       value.font = font_;
@@ -191,7 +183,8 @@ class Parser {
       fontLine_ = 0;
       return;
     }
-    if (SameWord(word, "BeginProperty") || SameWord(word, "End") || SameWord(word, "Begin")) {
+    if (EqualsIgnoringCase(word, "BeginProperty") || EqualsIgnoringCase(word, "End") ||
+        EqualsIgnoringCase(word, "Begin")) {
       throw SyntaxError(number_,
                         "missing EndProperty for BeginProperty " + fontKey_ + " at line " + std::to_string(fontLine_));
     }
@@ -201,8 +194,8 @@ class Parser {
 
   // Property blocks of other controls nest; only their end matters.
   void SkippedLine(std::string_view word) {
-    if (SameWord(word, "BeginProperty")) ++skippedProperties_;
-    if (SameWord(word, "EndProperty")) --skippedProperties_;
+    if (EqualsIgnoringCase(word, "BeginProperty")) ++skippedProperties_;
+    if (EqualsIgnoringCase(word, "EndProperty")) --skippedProperties_;
   }
 
   std::string_view text_;

@@ -5,6 +5,7 @@
 #include <cmath>
 #include <limits>
 
+#include "control/numeric_text.h"
 #include "persist/form_syntax.h"
 
 namespace vorlex::form {
@@ -171,11 +172,7 @@ Value DecimalValue(Cursor& in) {
 }
 
 bool StartsWithWord(std::string_view text, std::string_view word) {
-  if (text.size() < word.size()) return false;
-  for (size_t i = 0; i < word.size(); ++i) {
-    if (std::tolower(static_cast<unsigned char>(text[i])) != std::tolower(static_cast<unsigned char>(word[i])))
-      return false;
-  }
+  if (text.size() < word.size() || !EqualsIgnoringCase(text.substr(0, word.size()), word)) return false;
   return text.size() == word.size() || IsBlank(text[word.size()]) || text[word.size()] == '\'';
 }
 

@@ -9,19 +9,6 @@ namespace vorlex {
 
 namespace {
 
-bool IsNumber(const Variant& v) {
-  switch (v.Type()) {
-    case VarType::Integer:
-    case VarType::Long:
-    case VarType::Single:
-    case VarType::Double:
-    case VarType::Boolean:
-      return true;
-    default:
-      return false;
-  }
-}
-
 // An object as the bag sees it: an empty picture holds nothing to keep.
 std::shared_ptr<Object> Kept(const Variant& v) {
   std::shared_ptr<Object> object = v.ToObject();
@@ -37,12 +24,12 @@ bool EqualsDefault(const Variant& value, const Variant& defaultValue) {
     return value.IsObject() && defaultValue.IsObject() && Kept(value) == Kept(defaultValue);
   }
   if (value.IsString() || defaultValue.IsString()) {
-    if (!(value.IsString() || IsNumber(value) || value.IsEmpty())) return false;
-    if (!(defaultValue.IsString() || IsNumber(defaultValue) || defaultValue.IsEmpty())) return false;
+    if (!(value.IsString() || value.IsNumeric())) return false;
+    if (!(defaultValue.IsString() || defaultValue.IsNumeric())) return false;
     return value.ToString() == defaultValue.ToString();
   }
-  const bool numbers = (IsNumber(value) || value.IsEmpty()) && (IsNumber(defaultValue) || defaultValue.IsEmpty());
-  if (numbers) return value.ToDouble() == defaultValue.ToDouble();
+  // Neither is a string here, so IsNumeric means a number, a Boolean or Empty.
+  if (value.IsNumeric() && defaultValue.IsNumeric()) return value.ToDouble() == defaultValue.ToDouble();
   return value.Type() == defaultValue.Type();
 }
 

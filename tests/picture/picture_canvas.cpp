@@ -4,33 +4,22 @@
 
 namespace vorlex::picture_test {
 
-PictureCanvas::PictureCanvas(int width, int height, uint32_t paper) {
-  screen_ = gdi::GetDC(nullptr);
-  dc_ = gdi::CreateCompatibleDC(screen_);
-  bitmap_ = gdi::CreateCompatibleBitmap(screen_, width, height);
-  previous_ = gdi::SelectObject(dc_, bitmap_);
+PictureCanvas::PictureCanvas(int width, int height, uint32_t paper) : bitmap_(width, height) {
   const gdi::HBRUSH brush = gdi::CreateSolidBrush(
       gdi::RGB(static_cast<uint8_t>(paper >> 16), static_cast<uint8_t>(paper >> 8), static_cast<uint8_t>(paper)));
   const gdi::RECT all{0, 0, width, height};
-  gdi::FillRect(dc_, &all, brush);
+  gdi::FillRect(dc(), &all, brush);
   gdi::DeleteObject(brush);
-}
-
-PictureCanvas::~PictureCanvas() {
-  gdi::SelectObject(dc_, previous_);
-  gdi::DeleteObject(bitmap_);
-  gdi::DeleteDC(dc_);
-  gdi::ReleaseDC(nullptr, screen_);
 }
 
 bool PictureCanvas::Draw(const Picture& picture, int32_t x, int32_t y) const {
   stale_ = true;
-  return picture.Render(reinterpret_cast<uintptr_t>(dc_), x, y);
+  return picture.Render(reinterpret_cast<uintptr_t>(dc()), x, y);
 }
 
 uint32_t PictureCanvas::At(int x, int y) const {
   if (stale_) {
-    if (!gdi::ReadPixels(dc_, pixels_)) return 0xFFFFFFFFu;
+    if (!gdi::ReadPixels(dc(), pixels_)) return 0xFFFFFFFFu;
     stale_ = false;
   }
   if (x < 0 || y < 0 || x >= pixels_.width || y >= pixels_.height) return 0xFFFFFFFFu;

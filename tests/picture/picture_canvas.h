@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <string>
 
+#include "memory_bitmap.h"
 #include "platform/gdi.h"
 #include "vorlex/Picture.h"
 
@@ -17,9 +18,6 @@ inline constexpr uint32_t kPaper = 0x123456;
 class PictureCanvas {
  public:
   PictureCanvas(int width, int height, uint32_t paper = kPaper);
-  ~PictureCanvas();
-  PictureCanvas(const PictureCanvas&) = delete;
-  PictureCanvas& operator=(const PictureCanvas&) = delete;
 
   // Picture::Render at (x, y); its result.
   bool Draw(const Picture& picture, int32_t x = 0, int32_t y = 0) const;
@@ -27,13 +25,10 @@ class PictureCanvas {
   uint32_t At(int x, int y) const;
   // A row of pixels as text, one "RRGGBB" per pixel, for messages.
   std::string Row(int y) const;
-  gdi::HDC dc() const { return dc_; }
+  gdi::HDC dc() const { return bitmap_.dc(); }
 
  private:
-  gdi::HDC screen_ = nullptr;
-  gdi::HDC dc_ = nullptr;
-  gdi::HBITMAP bitmap_ = nullptr;
-  gdi::HGDIOBJ previous_ = nullptr;
+  vorlex::testing::MemoryBitmap bitmap_;
   mutable gdi::Pixels pixels_;
   mutable bool stale_ = true;
 };

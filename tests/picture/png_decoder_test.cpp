@@ -7,6 +7,7 @@
 
 #include "decode_helpers.h"
 #include "samples.h"
+#include "surface/png_checksums.h"
 #include "writers/png_writer.h"
 
 using namespace vorlex;

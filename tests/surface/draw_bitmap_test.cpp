@@ -1,4 +1,4 @@
-#include "surface/drawing_target.h"
+#include "memory_bitmap.h"
 #include "surface_fixture.h"
 #include "vorlex/Enums.h"
 
@@ -11,45 +11,20 @@ namespace {
 // pixel tells where it came from.
 uint32_t PicturePixel(int x, int y) { return Rgb(static_cast<uint32_t>(x), static_cast<uint32_t>(y), 0x80); }
 
-// A hidden picture box holding a w x h picture at pixel scale.
-class PictureBox : public DrawingTarget {
- public:
-  PictureBox(int w, int h) : w_(w), h_(h) {
-    screen_ = gdi::GetDC(nullptr);
-    dc_ = gdi::CreateCompatibleDC(screen_);
-    bitmap_ = gdi::CreateCompatibleBitmap(screen_, w > 0 ? w : 1, h > 0 ? h : 1);
-    previous_ = gdi::SelectObject(dc_, bitmap_);
-    gdi::Pixels p;
-    p.width = w;
-    p.height = h;
-    for (int y = 0; y < h; ++y) {
-      for (int x = 0; x < w; ++x) p.argb.push_back(PicturePixel(x, y));
-    }
-    if (w > 0 && h > 0) gdi::WritePixels(dc_, p);
+// A w x h test picture, every pixel from PicturePixel.
+gdi::Pixels TestPicture(int w, int h) {
+  gdi::Pixels p;
+  p.width = w;
+  p.height = h;
+  for (int y = 0; y < h; ++y) {
+    for (int x = 0; x < w; ++x) p.argb.push_back(PicturePixel(x, y));
   }
-  ~PictureBox() override {
-    gdi::SelectObject(dc_, previous_);
-    gdi::DeleteObject(bitmap_);
-    gdi::DeleteDC(dc_);
-    gdi::ReleaseDC(nullptr, screen_);
-  }
-  gdi::HDC hDC() const override { return dc_; }
-  float ScaleLeft() const override { return 0; }
-  float ScaleTop() const override { return 0; }
-  float ScaleWidth() const override { return static_cast<float>(w_); }
-  float ScaleHeight() const override { return static_cast<float>(h_); }
-
- private:
-  int w_, h_;
-  gdi::HDC screen_, dc_;
-  gdi::HBITMAP bitmap_;
-  gdi::HGDIOBJ previous_;
-};
+  return p;
+}
 
 class DrawBitmapTest : public SurfaceTest {
  protected:
-  gdi::Pixels Draw(const PictureBox& picture, int32_t alignment, int32_t tile, int16_t offset = 0,
-                   int16_t rivets = 0) {
+  gdi::Pixels Draw(const PictureBox& picture, int32_t alignment, int32_t tile, int16_t offset = 0, int16_t rivets = 0) {
     Surface().PictureAlignment = alignment;
     Surface().PictureTile = tile;
     Surface().PictureOffset = offset;
@@ -91,7 +66,7 @@ TEST_F(DrawBitmapTest, EachAlignmentPlacesThePicture) {
                {vxTopCenter, 17, 6},     {vxTopLeft, 12, 6},     {vxTopRight, 22, 6},
                {vxBottomCenter, 17, 14}, {vxBottomLeft, 12, 14}, {vxBottomRight, 22, 14}};
   Init(40, 24);
-  const PictureBox picture(6, 4);
+  const PictureBox picture(TestPicture(6, 4));
   for (const auto& c : cases) {
     Fill(0);
     SetRect(10, 4, 30, 20);
@@ -104,7 +79,7 @@ TEST_F(DrawBitmapTest, EachAlignmentPlacesThePicture) {
 
 TEST_F(DrawBitmapTest, OffsetIsAMarginAndDoesNothingOnACentredAxis) {
   Init(40, 24);
-  const PictureBox picture(6, 4);
+  const PictureBox picture(TestPicture(6, 4));
   SetRect(10, 4, 30, 20);
   ExpectRect(Painted(Draw(picture, vxTopLeft, vxNoneTile, 5)), 15, 9, 21, 13);
   Fill(0);
@@ -113,14 +88,14 @@ TEST_F(DrawBitmapTest, OffsetIsAMarginAndDoesNothingOnACentredAxis) {
 
 TEST_F(DrawBitmapTest, AlignmentOutsideTheTableCopiesToTheOrigin) {
   Init(40, 24);
-  const PictureBox picture(6, 4);
+  const PictureBox picture(TestPicture(6, 4));
   SetRect(10, 4, 30, 20);
   ExpectRect(Painted(Draw(picture, 9, vxNoneTile, 5)), 0, 0, 6, 4);
 }
 
 TEST_F(DrawBitmapTest, ALargerPictureShowsItsTopLeftPartAtTheAreasTopLeft) {
   Init(40, 24);
-  const PictureBox picture(30, 20);
+  const PictureBox picture(TestPicture(30, 20));
   SetRect(10, 4, 20, 12);  // 10 x 8
   const gdi::Pixels p = Draw(picture, vxCenterCenter, vxNoneTile);
   ExpectRect(Painted(p), 10, 4, 20, 12);
@@ -130,7 +105,7 @@ TEST_F(DrawBitmapTest, ALargerPictureShowsItsTopLeftPartAtTheAreasTopLeft) {
 
 TEST_F(DrawBitmapTest, RivetsInsetTheAreaBySevenIgnoringTheBorder) {
   Init(40, 30);
-  const PictureBox picture(30, 30);
+  const PictureBox picture(TestPicture(30, 30));
   SetRect(0, 0, 20, 20);
   Surface().BorderWidth = 3;
   const gdi::Pixels p = Draw(picture, vxTopLeft, vxNoneTile, 0, vxRaisedRivets);
@@ -139,7 +114,7 @@ TEST_F(DrawBitmapTest, RivetsInsetTheAreaBySevenIgnoringTheBorder) {
 
 TEST_F(DrawBitmapTest, HorizontalTilingIsVerticallyCentredAndCutAtTheEnd) {
   Init(40, 24);
-  const PictureBox picture(6, 4);
+  const PictureBox picture(TestPicture(6, 4));
   SetRect(2, 2, 22, 20);  // 20 wide: tiles at 2, 8, 14 and a 2-pixel piece at 20
   const gdi::Pixels p = Draw(picture, vxTopLeft, vxHorizontalTile, 5);
   ExpectRect(Painted(p), 2, 9, 22, 13);
@@ -150,7 +125,7 @@ TEST_F(DrawBitmapTest, HorizontalTilingIsVerticallyCentredAndCutAtTheEnd) {
 
 TEST_F(DrawBitmapTest, VerticalTilingIsHorizontallyCentred) {
   Init(40, 24);
-  const PictureBox picture(6, 4);
+  const PictureBox picture(TestPicture(6, 4));
   SetRect(0, 0, 20, 10);  // tiles at y 0, 4 and a 2-pixel piece at 8
   const gdi::Pixels p = Draw(picture, vxBottomRight, vxVerticalTile, 3);
   ExpectRect(Painted(p), 7, 0, 13, 10);
@@ -160,7 +135,7 @@ TEST_F(DrawBitmapTest, VerticalTilingIsHorizontallyCentred) {
 
 TEST_F(DrawBitmapTest, BothTilingCoversTheAreaColumnByColumn) {
   Init(40, 24);
-  const PictureBox picture(6, 4);
+  const PictureBox picture(TestPicture(6, 4));
   SetRect(1, 1, 14, 10);  // 13 x 9
   const gdi::Pixels p = Draw(picture, vxCenterCenter, vxBothTile);
   ExpectRect(Painted(p), 1, 1, 14, 10);
@@ -171,7 +146,7 @@ TEST_F(DrawBitmapTest, BothTilingCoversTheAreaColumnByColumn) {
 
 TEST_F(DrawBitmapTest, AnEmptyPictureDrawsNothingTiledOrNot) {
   Init(20, 20);
-  const PictureBox picture(0, 0);
+  const PictureBox picture(TestPicture(0, 0));
   SetRect(0, 0, 20, 20);
   for (int32_t tile : {vxNoneTile, vxHorizontalTile, vxVerticalTile, vxBothTile}) {
     for (uint32_t v : Draw(picture, vxTopLeft, tile).argb) ASSERT_EQ(v, 0u) << "tile " << tile;
@@ -180,7 +155,7 @@ TEST_F(DrawBitmapTest, AnEmptyPictureDrawsNothingTiledOrNot) {
 
 TEST_F(DrawBitmapTest, TileValuesAboveThreeDrawNothing) {
   Init(20, 20);
-  const PictureBox picture(4, 4);
+  const PictureBox picture(TestPicture(4, 4));
   SetRect(0, 0, 20, 20);
   for (uint32_t v : Draw(picture, vxTopLeft, 4).argb) ASSERT_EQ(v, 0u);
 }

@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "memory_bitmap.h"
 #include "surface_fixture.h"
 #include "vorlex/Enums.h"
 
@@ -9,41 +10,6 @@ using namespace vorlex;
 using namespace vorlex::testing;
 
 namespace {
-
-// A picture box: a memory context of the screen's format with a pixel scale.
-class PictureBox : public DrawingTarget {
- public:
-  PictureBox(int width, int height, float left = 0, float top = 0)
-      : width_(static_cast<float>(width)), height_(static_cast<float>(height)), left_(left), top_(top) {
-    screen_ = gdi::GetDC(nullptr);
-    dc_ = gdi::CreateCompatibleDC(screen_);
-    bitmap_ = gdi::CreateCompatibleBitmap(screen_, width, height);
-    previous_ = gdi::SelectObject(dc_, bitmap_);
-  }
-  ~PictureBox() override {
-    gdi::SelectObject(dc_, previous_);
-    gdi::DeleteObject(bitmap_);
-    gdi::DeleteDC(dc_);
-    gdi::ReleaseDC(nullptr, screen_);
-  }
-  gdi::HDC hDC() const override { return dc_; }
-  float ScaleLeft() const override { return left_; }
-  float ScaleTop() const override { return top_; }
-  float ScaleWidth() const override { return width_; }
-  float ScaleHeight() const override { return height_; }
-  gdi::Pixels Read() const {
-    gdi::Pixels p;
-    EXPECT_TRUE(gdi::ReadPixels(dc_, p));
-    return p;
-  }
-
- private:
-  float width_, height_, left_, top_;
-  gdi::HDC screen_;
-  gdi::HDC dc_;
-  gdi::HBITMAP bitmap_;
-  gdi::HGDIOBJ previous_;
-};
 
 uint32_t Red(double end, int i, int n) { return static_cast<uint32_t>(std::nearbyint(end / n * i)) << 16; }
 
@@ -62,7 +28,7 @@ TEST(ModGradient, PaintsTheSameBandsAsTheSurfaceForLinearStyles) {
   PictureBox box(512, 1);
   modGradient::ReadDisplayDepth(box);
   Paint(box, vxLeftHGradient, vxHigh, 0, 0x0000FF);  // 64 bands of 8 pixels
-  const gdi::Pixels p = box.Read();
+  const gdi::Pixels p = ReadDC(box.hDC());
   for (int x = 0; x < 512; ++x) ASSERT_EQ(p.At(x, 0), Red(255, x / 8, 64)) << x;
 }
 
@@ -70,9 +36,9 @@ TEST(ModGradient, OuterRectangleKeepsItsColoursAndLooksLikeInnerRectangle) {
   PictureBox box(16, 16);
   modGradient::ReadDisplayDepth(box);
   Paint(box, vxOuterRectangleGradient, vxVeryLow, 0x0000F0, 0);  // 8 bands
-  const gdi::Pixels outer = box.Read();
+  const gdi::Pixels outer = ReadDC(box.hDC());
   Paint(box, vxInnerRectangleGradient, vxVeryLow, 0x0000F0, 0);
-  const gdi::Pixels inner = box.Read();
+  const gdi::Pixels inner = ReadDC(box.hDC());
   EXPECT_EQ(outer.argb, inner.argb);
   EXPECT_EQ(outer.At(0, 0), Rgb(240, 0, 0));  // the first colour outside
 }
@@ -81,9 +47,9 @@ TEST(ModGradient, OuterCircleStillSwapsItsColours) {
   PictureBox box(16, 16);
   modGradient::ReadDisplayDepth(box);
   Paint(box, vxOuterCircleGradient, vxVeryLow, 0x0000F0, 0);
-  const gdi::Pixels outer = box.Read();
+  const gdi::Pixels outer = ReadDC(box.hDC());
   Paint(box, vxInnerCircleGradient, vxVeryLow, 0, 0x0000F0);
-  EXPECT_EQ(outer.argb, box.Read().argb);
+  EXPECT_EQ(outer.argb, ReadDC(box.hDC()).argb);
   EXPECT_NE(outer.At(8, 8), outer.At(8, 1));
 }
 
@@ -93,7 +59,7 @@ TEST(ModGradient, WorkingRectangleIsTheScaleValuesWithoutABorderInset) {
   PictureBox box(20, 10, 4.0f, 2.0f);
   modGradient::ReadDisplayDepth(box);
   Paint(box, vxLeftHGradient, vxDefault, 0x0000FF, 0x0000FF);
-  const gdi::Pixels p = box.Read();
+  const gdi::Pixels p = ReadDC(box.hDC());
   EXPECT_EQ(p.At(3, 5), 0u);
   EXPECT_EQ(p.At(4, 5), Rgb(255, 0, 0));
   EXPECT_EQ(p.At(19, 9), Rgb(255, 0, 0));
@@ -104,5 +70,5 @@ TEST(ModGradient, UsesTheModulesOwnLevels) {
   PictureBox box(32, 1);
   modGradient::ReadDisplayDepth(box);  // 32 bits: 256 levels, 8 bands at vxVeryLow
   Paint(box, vxLeftHGradient, vxVeryLow, 0, 0x0000FF);
-  EXPECT_EQ(box.Read().At(4, 0), Red(255, 1, 8));
+  EXPECT_EQ(ReadDC(box.hDC()).At(4, 0), Red(255, 1, 8));
 }

@@ -6,9 +6,11 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <sstream>
 #include <string>
 
+#include "memory_bitmap.h"
 #include "platform/gdi.h"
 #include "surface/offscreen_dc.h"
 
@@ -21,25 +23,19 @@ constexpr uint32_t AsPixel(uint32_t colorref) {
   return Rgb(colorref & 0xFF, (colorref >> 8) & 0xFF, (colorref >> 16) & 0xFF);
 }
 
+// The pixels of a context, 0x00RRGGBB.
+inline gdi::Pixels ReadDC(gdi::HDC dc) {
+  gdi::Pixels pixels;
+  EXPECT_TRUE(gdi::ReadPixels(dc, pixels));
+  return pixels;
+}
+
 class SurfaceTest : public ::testing::Test {
  protected:
-  ~SurfaceTest() override {
-    surface_.reset();
-    if (window_) {
-      gdi::SelectObject(window_, previous_);
-      gdi::DeleteObject(windowBitmap_);
-      gdi::DeleteDC(window_);
-    }
-    if (screen_) gdi::ReleaseDC(nullptr, screen_);
-  }
-
   OffScreenDC& Init(int width, int height) {
-    screen_ = gdi::GetDC(nullptr);
-    window_ = gdi::CreateCompatibleDC(screen_);
-    windowBitmap_ = gdi::CreateCompatibleBitmap(screen_, width, height);
-    previous_ = gdi::SelectObject(window_, windowBitmap_);
+    window_.emplace(width, height);
     surface_ = std::make_unique<OffScreenDC>();
-    gdi::HDC control = window_;
+    gdi::HDC control = window_->dc();
     int32_t w = width;
     int32_t h = height;
     surface_->Initialize(control, w, h);
@@ -47,7 +43,7 @@ class SurfaceTest : public ::testing::Test {
   }
 
   OffScreenDC& Surface() { return *surface_; }
-  gdi::HDC Window() const { return window_; }
+  gdi::HDC Window() const { return window_ ? window_->dc() : nullptr; }
 
   // Paints the whole surface one colour, outside any primitive under test.
   void Fill(uint32_t colorref) { FillArea(0, 0, 1 << 20, 1 << 20, colorref); }
@@ -66,11 +62,6 @@ class SurfaceTest : public ::testing::Test {
   }
 
   gdi::Pixels Read() const { return ReadDC(surface_->MemoryDC()); }
-  static gdi::Pixels ReadDC(gdi::HDC dc) {
-    gdi::Pixels pixels;
-    EXPECT_TRUE(gdi::ReadPixels(dc, pixels));
-    return pixels;
-  }
 
   // A hex map of a region, for failure messages.
   static std::string Describe(const gdi::Pixels& p, int x0, int y0, int x1, int y1) {
@@ -83,11 +74,8 @@ class SurfaceTest : public ::testing::Test {
   }
 
  private:
-  gdi::HDC screen_ = nullptr;
-  gdi::HDC window_ = nullptr;
-  gdi::HBITMAP windowBitmap_ = nullptr;
-  gdi::HGDIOBJ previous_ = nullptr;
-  std::unique_ptr<OffScreenDC> surface_;
+  std::optional<MemoryBitmap> window_;
+  std::unique_ptr<OffScreenDC> surface_;  // declared after window_: goes first
 };
 
 }  // namespace vorlex::testing

@@ -13,7 +13,4 @@ namespace vorlex::picture_test {
 // drops the alpha byte.
 Bytes PngFile(int width, int height, const std::vector<uint32_t>& argb, bool withAlpha);
 
-// CRC-32 as PNG chunks use it.
-uint32_t Crc32(const uint8_t* data, size_t size);
-
 }  // namespace vorlex::picture_test
