@@ -3,7 +3,6 @@
 #include "save_command.h"
 
 #include <string>
-#include <vector>
 
 #include "source.h"
 #include "statement_list.h"
@@ -12,10 +11,8 @@
 namespace vorlex::cli {
 
 int RunSave(const Options& options, std::ostream& out, std::ostream& err) {
-  std::vector<Statement> statements;
-  if (!ReadStatements(options.statements, statements, err)) return 2;
-  const PlacedControl placed = PlaceControl(options);
-  if (!ApplyStatements(*placed.control, options.statements, statements, err)) return 1;
+  PlacedControl placed;
+  if (const int status = PrepareControl(options, placed, false, err)) return status;
   if (!options.outPath.empty()) {
     SaveForm(*placed.control, placed.name, options.outPath);
     return 0;

@@ -35,4 +35,19 @@ bool ApplyStatements(Vorlex& control, const std::vector<std::string>& texts, con
   return true;
 }
 
+int PrepareControl(const Options& options, PlacedControl& placed, bool paint, std::ostream& err) {
+  std::vector<Statement> statements;
+  if (!ReadStatements(options.statements, statements, err)) return 2;
+  placed = PlaceControl(options);
+  if (!ApplyStatements(*placed.control, options.statements, statements, err)) return 1;
+  if (!paint) return 0;
+  try {
+    placed.control->UserControl_Paint();
+  } catch (const AutomationError& error) {
+    err << "vorlex: painting: error " << error.Number() << ": " << error.what() << '\n';
+    return 1;
+  }
+  return 0;
+}
+
 }  // namespace vorlex::cli

@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "options.h"
+#include "source.h"
 #include "statement.h"
 #include "vorlex/Vorlex.h"
 
@@ -19,5 +21,11 @@ bool ReadStatements(const std::vector<std::string>& texts, std::vector<Statement
 // and returns false: render, click and save stop there.
 bool ApplyStatements(Vorlex& control, const std::vector<std::string>& texts, const std::vector<Statement>& statements,
                      std::ostream& err);
+
+// What render, click and save share: reads options.statements, places the
+// source's control and applies them, then paints once when asked. Returns 0,
+// or the exit status of the failure: 2 for a statement that does not parse,
+// 1 for an automation error (one line on err).
+int PrepareControl(const Options& options, PlacedControl& placed, bool paint, std::ostream& err);
 
 }  // namespace vorlex::cli
