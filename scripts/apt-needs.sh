@@ -27,6 +27,17 @@ need_build_packages() {
   need_file /usr/include/gif_lib.h libgif-dev
 }
 
+# What the hosts build against: widl and Wine's IDL files for the ActiveX
+# control's type library, Qt 6 with its Designer and UI-loader modules for the
+# Qt widget.
+need_host_packages() {
+  need_file /usr/bin/widl wine64-tools
+  need_file /usr/include/wine/wine/windows/oaidl.idl wine64-tools
+  need_file /usr/lib/x86_64-linux-gnu/cmake/Qt6Widgets/Qt6WidgetsConfig.cmake qt6-base-dev
+  need_file /usr/lib/x86_64-linux-gnu/cmake/Qt6Designer/Qt6DesignerConfig.cmake qt6-tools-dev
+  need_file /usr/lib/x86_64-linux-gnu/cmake/Qt6UiTools/Qt6UiToolsConfig.cmake qt6-tools-dev
+}
+
 install_needed() {
   local log="$1"
   ((${#missing[@]})) || return 0

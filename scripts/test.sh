@@ -25,6 +25,7 @@ cd "$repo"
 # shellcheck source=apt-needs.sh
 source "$repo/scripts/apt-needs.sh"
 need_build_packages
+need_host_packages
 need_file /usr/src/googletest/CMakeLists.txt googletest
 need_file /usr/include/benchmark/benchmark.h libbenchmark-dev
 need_command x86_64-w64-mingw32-g++-posix g++-mingw-w64-x86-64

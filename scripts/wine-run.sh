@@ -76,9 +76,23 @@ link_wine_fonts() {
   done
 }
 
+# Windows can be created without a display only when the prefix falls back to
+# Wine's null driver; with DISPLAY set (Xvfb, for screenshots) X11 is used.
+graphics_set() {
+  grep -q '^"Graphics"="x11,null"' "$WINEPREFIX/user.reg" 2>/dev/null
+}
+
+set_graphics() {
+  timeout -k 5 120 "$(wine64_loader)" reg add 'HKCU\Software\Wine\Drivers' /v Graphics /d x11,null /f \
+    </dev/null >>"$WINEPREFIX.boot.log" 2>&1 || return 1
+  # The registry reaches user.reg when the wineserver ends.
+  timeout -k 5 60 "$(wineserver_cmd)" -w </dev/null >/dev/null 2>&1 || true
+  graphics_set
+}
+
 # Creates the prefix once; concurrent callers wait for the first one.
 ensure_prefix() {
-  [[ -f "$WINEPREFIX/system.reg" ]] && fonts_linked && return 0
+  [[ -f "$WINEPREFIX/system.reg" ]] && fonts_linked && graphics_set && return 0
   mkdir -p "$(dirname "$WINEPREFIX")"
   local lock="$WINEPREFIX.lock"
   exec 9>"$lock"
@@ -98,6 +112,11 @@ ensure_prefix() {
     fi
   fi
   link_wine_fonts
+  if ! graphics_set && ! set_graphics; then
+    echo "wine-run: could not set the prefix's graphics driver to x11,null; see $WINEPREFIX.boot.log" >&2
+    exec 9>&-
+    return 1
+  fi
   exec 9>&-
 }
 

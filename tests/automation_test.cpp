@@ -64,6 +64,8 @@ const std::vector<Expected>& ExpectedMembers() {
       {"SaveSetting", 0x60030068, Call},
       {"RestoreSetting", 0x60030069, Call},
       {"Refresh", 0x6003004d, Call},
+      {"About", -552, Call},
+      {"ShowAboutBox", 0x6003006c, Call},
       {"SetBlockShapeStyle", 0x60030056, Call},
       {"SetBlockBorderStyle", 0x60030057, Call},
       {"SetBlockTextOffset", 0x60030058, Call},
@@ -313,4 +315,47 @@ TEST_F(AutomationInvokeTest, ClearAllTakesVxHardAsMinusOne) {
   EXPECT_AUTOMATION_ERROR(Invoke(control, "ClearAll", InvokeKind::Method, {Variant(int32_t{vxHard})}),
                           kErrSubscript);  // no snapshot yet
   Invoke(control, "ClearAll", InvokeKind::Method, {});
+}
+
+TEST_F(AutomationInvokeTest, AboutAndShowAboutBoxAskTheContainerForTheAboutBox) {
+  Invoke(control, "About", InvokeKind::Method, {});
+  EXPECT_EQ(site.AboutBoxRequests(), 1);
+  Invoke(control, -552, InvokeKind::Method, {});
+  Invoke(control, "showaboutbox", InvokeKind::Method, {});
+  EXPECT_EQ(site.AboutBoxRequests(), 3);
+  EXPECT_TRUE(site.Notifications().empty());
+}
+
+TEST(EnumerationTable, PublishesTheFourteenEnumerationsWithTheirConstants) {
+  const auto& table = EnumerationTable();
+  ASSERT_EQ(table.size(), 14u);
+  size_t constants = 0;
+  for (const EnumerationInfo& e : table) {
+    EXPECT_TRUE(e.name.starts_with("vx") && e.name.ends_with("Enum")) << e.name;
+    for (const EnumConstant& c : e.constants) EXPECT_TRUE(c.name.starts_with("vx")) << c.name;
+    constants += e.constants.size();
+  }
+  EXPECT_EQ(constants, 9u + 3 + 4 + 8 + 7 + 2 + 5 + 5 + 13 + 4 + 5 + 2 + 2 + 4);
+  const EnumerationInfo* gradients = FindEnumeration("vxgradientstyleenum");
+  ASSERT_NE(gradients, nullptr);
+  EXPECT_EQ(gradients->constants.back().name, "vxOuterRectangleGradient");
+  EXPECT_EQ(gradients->constants.back().value, 12);
+  const EnumerationInfo* clear = FindEnumeration("vxClearAllEnum");
+  ASSERT_NE(clear, nullptr);
+  EXPECT_EQ(clear->constants.front().name, "vxHard");
+  EXPECT_EQ(clear->constants.front().value, -1);
+  EXPECT_EQ(FindEnumeration("vxNoSuchEnum"), nullptr);
+}
+
+TEST(EnumerationTable, EveryEnumerationTypedMemberNamesAPublishedEnumeration) {
+  for (const MemberInfo& m : AutomationTable()) {
+    if (m.type.kind == TypeKind::Enum) {
+      EXPECT_NE(FindEnumeration(m.type.enumName), nullptr) << m.name;
+    }
+    for (const ParamInfo& p : m.params) {
+      if (!p.type.enumName.empty()) {
+        EXPECT_NE(FindEnumeration(p.type.enumName), nullptr) << m.name;
+      }
+    }
+  }
 }

@@ -2,6 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <memory>
+#include <string>
+#include <vector>
+
 #include "error_matchers.h"
 #include "vorlex/Picture.h"
 
@@ -52,4 +56,60 @@ TEST(Picture, EmptyPictureHasNoTypeHandleOrSize) {
   EXPECT_EQ(picture->Handle(), 0u);
   EXPECT_EQ(picture->PixelWidth(), 0);
   EXPECT_EQ(picture->PixelHeight(), 0);
+}
+
+namespace {
+// Records what its font looked like at each change.
+class RecordingPeer : public ObjectPeer {
+ public:
+  explicit RecordingPeer(std::vector<std::string>* seen, bool* destroyed) : seen_(seen), destroyed_(destroyed) {}
+  ~RecordingPeer() override { *destroyed_ = true; }
+  void ObjectChanged(const Object& object) override {
+    const auto& font = dynamic_cast<const Font&>(object);
+    seen_->push_back(font.Name() + " " + std::to_string(font.Weight()) + (font.Italic() ? " italic" : ""));
+  }
+
+ private:
+  std::vector<std::string>* seen_;
+  bool* destroyed_;
+};
+}  // namespace
+
+TEST(Font, APeerHearsOfEveryChangeAfterItIsMade) {
+  std::vector<std::string> seen;
+  bool destroyed = false;
+  {
+    Font font;
+    font.SetPeer(std::make_unique<RecordingPeer>(&seen, &destroyed));
+    font.SetName("Arial");
+    font.SetBold(true);
+    font.SetItalic(true);
+    font.SetSize(12);
+    font.SetUnderline(true);
+    font.SetStrikethrough(true);
+    font.SetCharset(2);
+    ASSERT_EQ(seen.size(), 7u);
+    EXPECT_EQ(seen[0], "Arial 400");
+    EXPECT_EQ(seen[1], "Arial 700");
+    EXPECT_EQ(seen[2], "Arial 700 italic");
+    EXPECT_FALSE(destroyed);
+  }
+  EXPECT_TRUE(destroyed);  // the peer lives as long as its object
+}
+
+TEST(Font, ReplacingThePeerDestroysTheOldOne) {
+  std::vector<std::string> first;
+  std::vector<std::string> second;
+  bool firstGone = false;
+  bool secondGone = false;
+  Font font;
+  font.SetPeer(std::make_unique<RecordingPeer>(&first, &firstGone));
+  font.SetPeer(std::make_unique<RecordingPeer>(&second, &secondGone));
+  EXPECT_TRUE(firstGone);
+  font.SetWeight(600);
+  EXPECT_TRUE(first.empty());
+  EXPECT_EQ(second.size(), 1u);
+  font.SetPeer(nullptr);
+  EXPECT_TRUE(secondGone);
+  EXPECT_EQ(font.Peer(), nullptr);
 }

@@ -49,6 +49,20 @@ inline constexpr int32_t DISPID_UNKNOWN = -1;
 
 const std::vector<MemberInfo>& AutomationTable();
 
+// The style enumerations published with the interface: each type's name and
+// its constants in declaration order (a constant's help text is its name).
+struct EnumConstant {
+  std::string_view name;
+  int32_t value = 0;
+};
+struct EnumerationInfo {
+  std::string_view name;
+  std::vector<EnumConstant> constants;
+};
+const std::vector<EnumerationInfo>& EnumerationTable();
+// Case-insensitive; null for a name that is no enumeration.
+const EnumerationInfo* FindEnumeration(std::string_view name);
+
 // Case-insensitive, as Basic looks names up.
 const MemberInfo* FindMember(std::string_view name, InvokeKind kind);
 const MemberInfo* FindMember(int32_t dispid, InvokeKind kind);

@@ -61,6 +61,9 @@ class ControlSite {
   virtual void PropertyChanged(std::string_view name) = 0;
   // The finished picture of one redraw has been copied to the window.
   virtual void BarPainted() = 0;
+  // The control asks the container to show its About box modally; the call
+  // returns when the box is closed.
+  virtual void ShowAboutBox() = 0;
 
   virtual VorlexEvents& Events() = 0;
   virtual TimerService& Timers() = 0;

@@ -72,6 +72,8 @@ class HeadlessSite : public ControlSite, public VorlexEvents {
   const std::vector<std::string>& Notifications() const { return notifications_; }
   const std::vector<std::string>& RaisedEvents() const { return events_; }
   int Paints() const { return paints_; }
+  // How often the control asked for its About box.
+  int AboutBoxRequests() const { return aboutBoxRequests_; }
   void ClearRecords();
   ManualTimers& TimerClock() { return timers_; }
   // What the window shows.
@@ -101,6 +103,7 @@ class HeadlessSite : public ControlSite, public VorlexEvents {
   void SetFont(FontPtr font) override { font_ = std::move(font); }
   void PropertyChanged(std::string_view name) override { notifications_.emplace_back(name); }
   void BarPainted() override { ++paints_; }
+  void ShowAboutBox() override { ++aboutBoxRequests_; }
   VorlexEvents& Events() override { return *this; }
   TimerService& Timers() override { return timers_; }
   DiskService& Disks() override { return *disks_; }
@@ -129,6 +132,7 @@ class HeadlessSite : public ControlSite, public VorlexEvents {
   std::vector<std::string> notifications_;
   std::vector<std::string> events_;
   int paints_ = 0;
+  int aboutBoxRequests_ = 0;
   ManualTimers timers_;
   VorlexEvents* forward_ = nullptr;
   std::unique_ptr<DiskService> disks_;

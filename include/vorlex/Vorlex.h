@@ -225,6 +225,9 @@ class Vorlex {
 
   // Repaints the whole control.
   Variant Refresh();
+  // Show the About box modally (the two are the same).
+  Variant About();
+  Variant ShowAboutBox();
 
   // Container notifications.
   void UserControl_Paint();

@@ -167,6 +167,8 @@ void AddBlockListMembers(Table& t) {
   Method(t, "SaveSetting", 0x60030068, &Vorlex::SaveSetting);
   Method(t, "RestoreSetting", 0x60030069, &Vorlex::RestoreSetting);
   Method(t, "Refresh", 0x6003004d, &Vorlex::Refresh);
+  Method(t, "About", -552, &Vorlex::About);
+  Method(t, "ShowAboutBox", 0x6003006c, &Vorlex::ShowAboutBox);
 }
 
 void AddBulkSetters(Table& t) {

@@ -156,4 +156,12 @@ Variant Vorlex::Refresh() {
   return {};
 }
 
+// The About box is the container's to show: it owns the windows.
+Variant Vorlex::About() {
+  d->site.ShowAboutBox();
+  return {};
+}
+
+Variant Vorlex::ShowAboutBox() { return About(); }
+
 }  // namespace vorlex

@@ -20,6 +20,7 @@ void Font::ReleaseHandle() const {
 void Font::SetName(std::string name) {
   name_ = std::move(name);
   ReleaseHandle();
+  NotifyChanged();
 }
 
 void Font::SetSize(double points) {
@@ -28,27 +29,33 @@ void Font::SetSize(double points) {
   if (!(std::fabs(scaled) < 9.2e18)) RaiseError(kErrOverflow);
   sizeTenThousandths_ = static_cast<int64_t>(scaled);
   ReleaseHandle();
+  NotifyChanged();
 }
 
 void Font::SetWeight(int16_t weight) {
   weight_ = weight;
   ReleaseHandle();
+  NotifyChanged();
 }
 void Font::SetItalic(bool v) {
   italic_ = v;
   ReleaseHandle();
+  NotifyChanged();
 }
 void Font::SetUnderline(bool v) {
   underline_ = v;
   ReleaseHandle();
+  NotifyChanged();
 }
 void Font::SetStrikethrough(bool v) {
   strikethrough_ = v;
   ReleaseHandle();
+  NotifyChanged();
 }
 void Font::SetCharset(int16_t v) {
   charset_ = v;
   ReleaseHandle();
+  NotifyChanged();
 }
 
 }  // namespace vorlex

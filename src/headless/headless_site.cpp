@@ -97,6 +97,7 @@ void HeadlessSite::ClearRecords() {
   notifications_.clear();
   events_.clear();
   paints_ = 0;
+  aboutBoxRequests_ = 0;
 }
 
 void HeadlessSite::BlockClicked(int16_t& iBlock) {
