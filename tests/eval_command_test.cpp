@@ -200,6 +200,44 @@ TEST_F(Eval, LoadPictureOfAFileThatIsNoPicturePrintsError481) {
   EXPECT_EQ(control.get_BlockPicture(Variant(static_cast<int16_t>(1))), nullptr);
 }
 
+// Members of the objects that properties give.
+
+TEST_F(Eval, FontMemberAssignedThroughTheControlsFontReadsBack) {
+  EXPECT_EQ(Run({"Font.Name = \"Arial\"", "Font.Name", "Font", "font.bold = True", "FONT.BOLD"}),
+            "Arial\nArial\nTrue\n");
+  EXPECT_EQ(control.get_Font()->Name(), "Arial");
+  EXPECT_TRUE(control.get_Font()->Bold());
+}
+
+TEST_F(Eval, BlockTextFontSizeAssignedThroughItsIndexReadsBack) {
+  EXPECT_EQ(Run({"AddBlock", "BlockTextFont(1).Size = 12", "BlockTextFont(1).Size"}), "12\n");
+  EXPECT_DOUBLE_EQ(control.get_BlockTextFont(Variant(static_cast<int16_t>(1)))->Size(), 12.0);
+}
+
+TEST_F(Eval, FontMemberOfTheWrongTypePrintsError13) { EXPECT_EQ(Run({"Font.Bold = \"yes\""}), "error 13\n"); }
+
+TEST_F(Eval, MemberThatTheFontDoesNotHavePrintsError438) {
+  EXPECT_EQ(Run({"Font.Colour", "Font.Colour = 1"}), "error 438\nerror 438\n");
+}
+
+TEST_F(Eval, MemberOfAPropertyThatGivesNoObjectPrintsError424) {
+  EXPECT_EQ(Run({"CaptionAngle.Size", "Caption.Name = \"x\""}), "error 424\nerror 424\n");
+}
+
+TEST_F(Eval, MemberOfNothingPrintsError91) {
+  EXPECT_EQ(Run({"Picture = Nothing", "Picture.Type"}), "error 91\n");
+}
+
+TEST_F(Eval, PictureMembersGiveTypeHandleAndHimetricSize) {
+  const picture_test::PictureFile files;
+  const std::string load = "Picture = LoadPicture(\"" + files.Bitmap() + "\")";
+  // The bitmap is 2 by 1 pixels: at 96 pixels per inch 52.9 by 26.5 HIMETRIC.
+  EXPECT_EQ(Run({load.c_str(), "Picture.Type", "Picture.Width", "Picture.Height", "Picture.hPal"}), "1\n53\n26\n0\n");
+  EXPECT_EQ(Run({"Picture.Handle"}), std::to_string(static_cast<int32_t>(control.get_Picture()->Handle())) + "\n");
+}
+
+TEST_F(Eval, AssigningAPictureMemberPrintsError383) { EXPECT_EQ(Run({"Picture.Width = 5"}), "error 383\n"); }
+
 // Which call a statement makes.
 
 TEST(EvalCallKind, NameWithAGetReadsTheProperty) {

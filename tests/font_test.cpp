@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "error_matchers.h"
+#include "vorlex/Automation.h"
 #include "vorlex/Picture.h"
 
 using namespace vorlex;
@@ -112,4 +113,46 @@ TEST(Font, ReplacingThePeerDestroysTheOldOne) {
   font.SetPeer(nullptr);
   EXPECT_TRUE(secondGone);
   EXPECT_EQ(font.Peer(), nullptr);
+}
+
+// Members reached through an object a property gives, as scripts write them.
+
+TEST(ObjectMembers, FontMembersReadAndWriteTheSharedFont) {
+  const auto font = std::make_shared<Font>();
+  const Variant value{std::shared_ptr<Object>(font)};
+  PutObjectMember(value, "name", Variant("Arial"));
+  PutObjectMember(value, "SIZE", Variant(12.0));
+  PutObjectMember(value, "Italic", Variant::Boolean(true));
+  PutObjectMember(value, "Weight", Variant(int16_t{700}));
+  EXPECT_EQ(font->Name(), "Arial");
+  EXPECT_DOUBLE_EQ(font->Size(), 12.0);
+  EXPECT_TRUE(font->Italic());
+  EXPECT_TRUE(GetObjectMember(value, "Bold").ToBoolean());
+  EXPECT_EQ(GetObjectMember(value, "Charset").ToInteger(), font->Charset());
+}
+
+TEST(ObjectMembers, AFontMemberChangeReachesThePeer) {
+  struct Counter : ObjectPeer {
+    int* changes;
+    explicit Counter(int* c) : changes(c) {}
+    void ObjectChanged(const Object&) override { ++*changes; }
+  };
+  int changes = 0;
+  const auto font = std::make_shared<Font>();
+  font->SetPeer(std::make_unique<Counter>(&changes));
+  PutObjectMember(Variant(std::shared_ptr<Object>(font)), "Underline", Variant::Boolean(true));
+  EXPECT_EQ(changes, 1);
+}
+
+TEST(ObjectMembers, NothingRaises91AndANonObjectRaises424) {
+  EXPECT_AUTOMATION_ERROR(GetObjectMember(Variant(std::shared_ptr<Object>()), "Name"), 91);
+  EXPECT_AUTOMATION_ERROR(PutObjectMember(Variant(int16_t{3}), "Name", Variant("x")), 424);
+}
+
+TEST(ObjectMembers, PictureMembersAreReadOnly) {
+  const Variant picture{std::shared_ptr<Object>(EmptyPicture())};
+  EXPECT_EQ(GetObjectMember(picture, "Type").ToInteger(), kPicTypeNone);
+  EXPECT_EQ(GetObjectMember(picture, "Width").ToLong(), 0);
+  EXPECT_AUTOMATION_ERROR(PutObjectMember(picture, "Height", Variant(int32_t{5})), 383);
+  EXPECT_AUTOMATION_ERROR(GetObjectMember(picture, "Name"), 438);
 }

@@ -72,6 +72,30 @@ TEST(Statement, ArgumentsAreKeptInCallOrder) {
   EXPECT_FALSE(s.value.has_value());
 }
 
+TEST(Statement, DotNamesAMemberOfTheObjectThePropertyGives) {
+  const Statement statement = ParseStatement("Font.Name");
+  EXPECT_EQ(statement.name, "Font");
+  EXPECT_EQ(statement.member, "Name");
+  EXPECT_TRUE(statement.args.empty());
+  EXPECT_FALSE(statement.value.has_value());
+}
+
+TEST(Statement, MemberAfterArgumentsTakesTheAssignedValue) {
+  const Statement statement = ParseStatement("BlockTextFont(1) . Size = 12");
+  EXPECT_EQ(statement.name, "BlockTextFont");
+  ASSERT_EQ(statement.args.size(), 1u);
+  EXPECT_EQ(statement.member, "Size");
+  ASSERT_TRUE(statement.value.has_value());
+  EXPECT_EQ(statement.value->ToDouble(), 12.0);
+}
+
+TEST(Statement, StatementWithoutADotHasNoMember) { EXPECT_TRUE(ParseStatement("Blocks").member.empty()); }
+
+TEST(Statement, DotWithoutAMemberNameIsASyntaxError) {
+  EXPECT_THROW(ParseStatement("Font."), SyntaxError);
+  EXPECT_THROW(ParseStatement("Font.1 = 2"), SyntaxError);
+}
+
 TEST(Statement, AssignmentCarriesTheValue) {
   const Statement s = ParseStatement("Caption = \"Hello\"");
   EXPECT_EQ(s.name, "Caption");
@@ -341,7 +365,7 @@ TEST(StatementProblem, TrailingGarbage) {
   EXPECT_PROBLEM("BlockColor(1) x", "unexpected \"x\"");
   EXPECT_PROBLEM("Caption = \"a\" \"b\"", "unexpected \"\"b\"\"");
   EXPECT_PROBLEM("Blocks()) ", "unexpected \")");
-  EXPECT_PROBLEM("Vorlex1.Blocks", "unexpected \".Blocks\"");
+  EXPECT_PROBLEM("Font.Name.Size", "unexpected \".Size\"");
 }
 
 TEST(StatementProblem, BadHex) {

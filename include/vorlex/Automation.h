@@ -75,4 +75,13 @@ int32_t GetIDOfName(std::string_view name);
 Variant Invoke(Vorlex& control, int32_t dispid, InvokeKind kind, std::vector<Variant> args);
 Variant Invoke(Vorlex& control, std::string_view name, InvokeKind kind, std::vector<Variant> args);
 
+// Members of the objects a property gives (a font's Name, Size, Bold...; a
+// picture's Handle, hPal, Type, Width, Height), as a script reaches them with
+// Font.Name or BlockTextFont(1).Size. Names are case-insensitive. Errors: 424
+// when the value is no object, 91 for Nothing, 438 for a name the object does
+// not have, 383 for a put on a read-only member, and the conversion errors of
+// the assigned value (13, 6, 380).
+Variant GetObjectMember(const Variant& object, std::string_view member);
+void PutObjectMember(const Variant& object, std::string_view member, const Variant& value);
+
 }  // namespace vorlex

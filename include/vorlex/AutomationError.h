@@ -18,6 +18,7 @@ enum ErrorNumber : int32_t {
   kErrFileNotFound = 53,
   kErrObjectNotSet = 91,
   kErrInvalidPropertyValue = 380,
+  kErrReadOnlyProperty = 383,
   kErrGetNotAtRunTime = 393,
   kErrObjectRequired = 424,
   kErrNotSupported = 438,

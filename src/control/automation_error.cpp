@@ -22,6 +22,8 @@ std::string StandardErrorText(int32_t number) {
       return "Object variable or With block variable not set";
     case kErrInvalidPropertyValue:
       return "Invalid property value";
+    case kErrReadOnlyProperty:
+      return "Property is read-only";
     case kErrGetNotAtRunTime:
       return "Get not supported at run time";
     case kErrObjectRequired:

@@ -19,8 +19,20 @@ InvokeKind CallKind(const Statement& statement) {
   return InvokeKind::PropertyPut;
 }
 
+namespace {
+
+Variant ExecuteObjectMember(Vorlex& control, const Statement& statement) {
+  const Variant object = Invoke(control, statement.name, InvokeKind::PropertyGet, statement.args);
+  if (!statement.value) return GetObjectMember(object, statement.member);
+  PutObjectMember(object, statement.member, *statement.value);
+  return Variant();
+}
+
+}  // namespace
+
 Variant Execute(Vorlex& control, const Statement& statement) {
   if (statement.valueError != 0) RaiseError(statement.valueError);
+  if (!statement.member.empty()) return ExecuteObjectMember(control, statement);
   std::vector<Variant> args = statement.args;
   if (statement.value) args.push_back(*statement.value);
   return Invoke(control, statement.name, CallKind(statement), std::move(args));

@@ -39,6 +39,8 @@ class Parser {
     SkipSpaces();
     if (Peek() == '(') statement_.args = Arguments();
     SkipSpaces();
+    if (Peek() == '.') statement_.member = Member();
+    SkipSpaces();
     if (Peek() == '=') {
       ++pos_;
       SkipSpaces();
@@ -73,6 +75,14 @@ class Parser {
       Fail("LoadPicture is a function, not a member: use it as a value, as in Picture = LoadPicture(\"file.bmp\")");
     }
     return std::string(name);
+  }
+
+  // "." Name: a member of the object the property gives.
+  std::string Member() {
+    ++pos_;  // .
+    SkipSpaces();
+    if (!IsLetter(Peek())) Fail("expected a member name after \".\" at " + Rest());
+    return std::string(Word());
   }
 
   // "(" [value] { "," [value] } ")", where "()" holds no arguments at all.

@@ -1,6 +1,8 @@
 #pragma once
 // One call of the control's automation interface in Basic syntax:
 //   Name    Name(args)    Name = value    Name(args) = value
+// and, on a property that gives an object (a font, a picture), one of its members:
+//   Name.Member    Name(args).Member    Name.Member = value    Name(args).Member = value
 // Arguments and values are literals: numbers (see literal.h), "strings" with ""
 // for a quote, True, False, Nothing and LoadPicture("path"), which loads a
 // picture file as Basic's LoadPicture does (LoadPicture() and LoadPicture("")
@@ -23,6 +25,8 @@ struct Statement {
   // In call order; Variant::Missing() for an omitted argument. Empty
   // parentheses pass no arguments, so every optional argument takes its default.
   std::vector<Variant> args;
+  // The object member after a dot (Font.Name: "Name"), or empty.
+  std::string member;
   // The assigned value, for Name = value and Name(args) = value.
   std::optional<Variant> value;
   // The automation error a value raised while it was read (LoadPicture of a
