@@ -25,6 +25,8 @@ class OlePicture final : public Picture {
   int32_t PixelHeight() const override { return pixelHeight_; }
   bool Render(uintptr_t hdc, int32_t x, int32_t y) const override;
   std::vector<uint8_t> SaveAsFile() const override { return fileBytes_; }
+  // The platform object itself, as a host hands it back to its caller.
+  IPicture* Interface() const { return picture_; }
 
  private:
   IPicture* picture_;

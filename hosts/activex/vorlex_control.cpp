@@ -1,0 +1,64 @@
+#include "vorlex_control.h"
+
+#include <new>
+
+namespace vorlex::activex {
+
+VorlexControl::VorlexControl()
+    : site_(*this),
+      events_(*static_cast<IConnectionPointContainer*>(this), *this, DIID___Vorlex),
+      propertyNotify_(*static_cast<IConnectionPointContainer*>(this), *this, IID_IPropertyNotifySink) {}
+
+VorlexControl::~VorlexControl() {
+  // The control stops its timers before the site and its timer service go.
+  control_.reset();
+}
+
+HRESULT VorlexControl::Create(IUnknown* outer, REFIID iid, void** out) {
+  if (!out) return E_POINTER;
+  *out = nullptr;
+  if (outer) return CLASS_E_NOAGGREGATION;
+  auto* object = new (std::nothrow) VorlexControl();
+  if (!object) return E_OUTOFMEMORY;
+  const HRESULT result = object->QueryInterface(iid, out);
+  object->Release();
+  return result;
+}
+
+HRESULT VorlexControl::QueryInterface(REFIID iid, void** out) {
+  if (!out) return E_POINTER;
+  *out = nullptr;
+  if (iid == IID_IUnknown || iid == IID_IDispatch || iid == IID__Vorlex)
+    *out = static_cast<_Vorlex*>(this);
+  else if (iid == IID_IProvideClassInfo || iid == IID_IProvideClassInfo2)
+    *out = static_cast<IProvideClassInfo2*>(this);
+  else if (iid == IID_IConnectionPointContainer)
+    *out = static_cast<IConnectionPointContainer*>(this);
+  else if (iid == IID_ISupportErrorInfo)
+    *out = static_cast<ISupportErrorInfo*>(this);
+  else if (iid == IID_IObjectSafety)
+    *out = static_cast<IObjectSafety*>(this);
+  else
+    return E_NOINTERFACE;
+  AddRef();
+  return S_OK;
+}
+
+ULONG VorlexControl::AddRef() { return static_cast<ULONG>(InterlockedIncrement(&refs_)); }
+
+ULONG VorlexControl::Release() {
+  const long refs = InterlockedDecrement(&refs_);
+  if (refs == 0) delete this;
+  return static_cast<ULONG>(refs);
+}
+
+Vorlex& VorlexControl::Control() {
+  if (!control_) control_ = std::make_unique<Vorlex>(site_);
+  if (!initialised_) {
+    initialised_ = true;
+    control_->InitProperties();
+  }
+  return *control_;
+}
+
+}  // namespace vorlex::activex
