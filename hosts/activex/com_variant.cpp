@@ -100,15 +100,21 @@ Variant FromOtherKind(const VARIANT& value) {
 
 }  // namespace
 
-std::string FromBstr(BSTR text) {
-  if (!text) return {};
-  const int length = static_cast<int>(SysStringLen(text));
-  if (length == 0) return {};
+namespace {
+
+std::string Utf8(const wchar_t* text, int length) {
+  if (!text || length <= 0) return {};
   const int bytes = WideCharToMultiByte(CP_UTF8, 0, text, length, nullptr, 0, nullptr, nullptr);
   std::string utf8(static_cast<size_t>(bytes), '\0');
   WideCharToMultiByte(CP_UTF8, 0, text, length, utf8.data(), bytes, nullptr, nullptr);
   return utf8;
 }
+
+}  // namespace
+
+std::string FromBstr(BSTR text) { return text ? Utf8(text, static_cast<int>(SysStringLen(text))) : std::string(); }
+
+std::string FromWide(const wchar_t* text) { return text ? Utf8(text, lstrlenW(text)) : std::string(); }
 
 BSTR ToBstr(const std::string& text) {
   const int length = MultiByteToWideChar(CP_UTF8, 0, text.data(), static_cast<int>(text.size()), nullptr, 0);

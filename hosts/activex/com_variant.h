@@ -12,6 +12,8 @@ namespace vorlex::activex {
 
 // A BSTR as UTF-8 and back; a null BSTR is the empty string.
 std::string FromBstr(BSTR text);
+// A zero-terminated wide string (a name passed to GetIDsOfNames) as UTF-8.
+std::string FromWide(const wchar_t* text);
 BSTR ToBstr(const std::string& text);
 
 // A VARIANT as a tagged value: by-reference values are read through, an

@@ -85,7 +85,7 @@ HRESULT VorlexControl::GetTypeInfo(UINT index, LCID, ITypeInfo** info) {
 HRESULT VorlexControl::GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID, DISPID* ids) {
   if (!names || !ids || count == 0) return E_INVALIDARG;
   for (UINT i = 0; i < count; ++i) ids[i] = DISPID_UNKNOWN;
-  const int32_t id = GetIDOfName(FromBstr(names[0]));
+  const int32_t id = GetIDOfName(FromWide(names[0]));
   if (id == DISPID_UNKNOWN) return DISP_E_UNKNOWNNAME;
   ids[0] = id;
   // Named arguments are not part of the interface.

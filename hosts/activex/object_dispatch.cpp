@@ -77,7 +77,7 @@ class ObjectDispatch final : public IDispatch {
     if (!names || !ids || count == 0) return E_INVALIDARG;
     HRESULT result = S_OK;
     for (UINT i = 0; i < count; ++i) ids[i] = DISPID_UNKNOWN;
-    const std::string name = FromBstr(names[0]);
+    const std::string name = FromWide(names[0]);
     for (const MemberId& m : Members())
       if (SameName(m.name, name)) ids[0] = m.dispid;
     if (ids[0] == DISPID_UNKNOWN || count > 1) result = DISP_E_UNKNOWNNAME;

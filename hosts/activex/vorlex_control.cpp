@@ -7,7 +7,11 @@ namespace vorlex::activex {
 VorlexControl::VorlexControl()
     : site_(*this),
       events_(*static_cast<IConnectionPointContainer*>(this), *this, DIID___Vorlex),
-      propertyNotify_(*static_cast<IConnectionPointContainer*>(this), *this, IID_IPropertyNotifySink) {}
+      propertyNotify_(*static_cast<IConnectionPointContainer*>(this), *this, IID_IPropertyNotifySink) {
+  // Script hosts neither initialise nor load a control: it starts as a newly
+  // placed one, before any sink can hear its set-up.
+  Control();
+}
 
 VorlexControl::~VorlexControl() {
   // The control stops its timers before the site and its timer service go.

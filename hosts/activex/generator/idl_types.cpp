@@ -63,6 +63,10 @@ std::string ConversionName(const TypeRef& type) {
   return "Variant";
 }
 
+bool HasDeclaredDefault(const ParamInfo& param) {
+  return param.optional && !param.defaultValue.IsMissing() && param.type.kind != TypeKind::Variant;
+}
+
 std::string IdlLiteral(const Variant& value) {
   if (value.IsString()) {
     std::string text = "\"";

@@ -15,6 +15,9 @@ std::string ConversionName(const TypeRef& type);
 // The same type as C++ names it in widl's header, outside the library's
 // namespace, whose names (OLE_COLOR, the enumerations) it would otherwise find.
 std::string CppType(const TypeRef& type);
+// Whether the type library declares the argument's default: an optional
+// argument with one, unless it is a Variant.
+bool HasDeclaredDefault(const ParamInfo& param);
 // An IDL defaultvalue() literal.
 std::string IdlLiteral(const Variant& value);
 

@@ -31,7 +31,9 @@ std::string ParameterAttributes(const ParamInfo& p) {
   std::string attributes = p.byRef ? "in, out" : "in";
   if (p.optional) {
     attributes += ", optional";
-    if (!p.defaultValue.IsMissing()) attributes += ", defaultvalue(" + IdlLiteral(p.defaultValue) + ")";
+    // A Variant argument's default is applied by the control when the argument
+    // is omitted: a type library cannot hold a default of type Variant.
+    if (HasDeclaredDefault(p)) attributes += ", defaultvalue(" + IdlLiteral(p.defaultValue) + ")";
   }
   return attributes;
 }
