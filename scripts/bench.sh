@@ -39,3 +39,9 @@ printf '%-44s %14s %14s %8s\n' benchmark "softgdi ns" "Wine GDI ns" ratio
 join <(to_ns "$out/native.csv" | sort) <(to_ns "$out/wine.csv" | sort) |
   awk '{ printf "%-44s %14.1f %14.1f %8.2f\n", $1, $2, $3, ($2 > 0 ? $3 / $2 : 0) }'
 echo "(ratio = Wine / softgdi; above 1 means softgdi is faster)"
+
+# The ActiveX server's late binding, Windows only: IDispatch by id and by name
+# beside the direct call, all in one run so the ratios compare.
+cmake --build build/win64 --target activex_bench >/dev/null
+echo
+scripts/wine-run.sh build/win64/bench/activex_bench.exe --benchmark_min_time="$min_time" 2>/dev/null | tr -d '\r'
