@@ -4,8 +4,10 @@
 // message loop; its events and change notifications go to the COM object,
 // which passes them to the connected sinks.
 
+#include <functional>
 #include <string_view>
 
+#include "com_includes.h"
 #include "vorlex/HeadlessSite.h"
 #include "windowless_timers.h"
 
@@ -30,9 +32,27 @@ class ComSite final : public HeadlessSite {
   TimerService& Timers() override { return timers_; }
   WindowlessTimers& RunningTimers() { return timers_; }
 
+  // In-place active, the control draws into its own window, whose client size
+  // is the control's; otherwise into the memory window.
+  void AttachWindow(HWND window);
+  void DetachWindow();
+  HWND Window() const { return window_; }
+  uintptr_t hWnd() const override { return reinterpret_cast<uintptr_t>(window_); }
+  uintptr_t hDC() const override { return window_ ? reinterpret_cast<uintptr_t>(windowDC_) : HeadlessSite::hDC(); }
+  // The listener is kept here too: a new drawing context needs a new surface
+  // even when the size stays.
+  void SetResizeListener(std::function<void()> listener) override;
+  // The window follows the control's Enabled: a disabled window gets no input.
+  void SetEnabled(VARIANT_BOOL enabled) override;
+  // The memory window or the control's window, whichever the control draws in.
+  HDC DrawingDC() const { return reinterpret_cast<HDC>(hDC()); }
+
  private:
   SiteOwner& owner_;
   WindowlessTimers timers_;
+  HWND window_ = nullptr;
+  HDC windowDC_ = nullptr;
+  std::function<void()> resized_;
 };
 
 }  // namespace vorlex::activex

@@ -39,6 +39,8 @@ void VorlexControl::OnPropertyChanged(std::string_view name) {
 }
 
 void VorlexControl::FireEvent(DISPID dispid, VARIANT* args, UINT count) {
+  // A container that froze events does not want them now.
+  if (frozenEvents_ > 0) return;
   // The object stays alive while a handler runs, whatever the handler does.
   AddRef();
   for (IUnknown* sink : events_.Sinks()) {

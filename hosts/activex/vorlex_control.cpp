@@ -14,8 +14,12 @@ VorlexControl::VorlexControl()
 }
 
 VorlexControl::~VorlexControl() {
+  InPlaceDeactivate();
   // The control stops its timers before the site and its timer service go.
   control_.reset();
+  if (clientSite_) clientSite_->Release();
+  if (adviseHolder_) adviseHolder_->Release();
+  if (viewSink_) viewSink_->Release();
 }
 
 HRESULT VorlexControl::Create(IUnknown* outer, REFIID iid, void** out) {
@@ -42,6 +46,16 @@ HRESULT VorlexControl::QueryInterface(REFIID iid, void** out) {
     *out = static_cast<ISupportErrorInfo*>(this);
   else if (iid == IID_IObjectSafety)
     *out = static_cast<IObjectSafety*>(this);
+  else if (iid == IID_IOleObject)
+    *out = static_cast<IOleObject*>(this);
+  else if (iid == IID_IOleWindow || iid == IID_IOleInPlaceObject)
+    *out = static_cast<IOleInPlaceObject*>(this);
+  else if (iid == IID_IOleInPlaceActiveObject)
+    *out = static_cast<IOleInPlaceActiveObject*>(this);
+  else if (iid == IID_IOleControl)
+    *out = static_cast<IOleControl*>(this);
+  else if (iid == IID_IViewObject || iid == IID_IViewObject2)
+    *out = static_cast<IViewObject2*>(this);
   else
     return E_NOINTERFACE;
   AddRef();
