@@ -16,6 +16,7 @@ enum ErrorNumber : int32_t {
   kErrDivisionByZero = 11,
   kErrTypeMismatch = 13,
   kErrFileNotFound = 53,
+  kErrInvalidFileFormat = 321,
   kErrObjectNotSet = 91,
   kErrInvalidPropertyValue = 380,
   kErrReadOnlyProperty = 383,

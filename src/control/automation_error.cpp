@@ -20,6 +20,8 @@ std::string StandardErrorText(int32_t number) {
       return "File not found";
     case kErrObjectNotSet:
       return "Object variable or With block variable not set";
+    case kErrInvalidFileFormat:
+      return "Invalid file format";
     case kErrInvalidPropertyValue:
       return "Invalid property value";
     case kErrReadOnlyProperty:

@@ -10,6 +10,7 @@
 #include "control_state.h"
 #include "form_fixture.h"
 #include "samples.h"
+#include "vorlex/BagStream.h"
 
 namespace vorlex::persist_test {
 namespace {
@@ -217,6 +218,26 @@ TEST_F(FormTest, RandomControlsRoundTripThroughFormText) {
     ApplyForm(loaded, forms[0], path);
     ASSERT_EQ(Lines(SaveFormText(loaded, "Vorlex1", path)), ExpectedTextAfterLoad(text, first.OuterWidthTwips()))
         << "state " << n;
+    ASSERT_EQ(ControlState(loaded, second), ExpectedAfterLoad(ControlState(original, first))) << "state " << n;
+  }
+}
+
+TEST_F(FormTest, RandomControlsRoundTripThroughTheBinaryBagStream) {
+  RandomControl random(20261124);
+  for (int n = 0; n < kStates / 4; ++n) {
+    HeadlessSite first;
+    Vorlex original(first);
+    original.InitProperties();
+    random.Fill(original, first);
+    MemoryPropertyBag saved;
+    original.UserControl_WriteProperties(saved);
+    const std::vector<uint8_t> stream = WriteBagStream(saved);
+
+    MemoryPropertyBag read = ReadBagStream(stream.data(), stream.size());
+    ASSERT_EQ(WriteBagStream(read), stream) << "state " << n;
+    HeadlessSite second;
+    Vorlex loaded(second);
+    loaded.UserControl_ReadProperties(read);
     ASSERT_EQ(ControlState(loaded, second), ExpectedAfterLoad(ControlState(original, first))) << "state " << n;
   }
 }
