@@ -128,7 +128,10 @@ HRESULT VorlexControl::Invoke(DISPID dispid, REFIID, LCID, WORD flags, DISPPARAM
 }
 
 Variant VorlexControl::Call(int32_t dispid, InvokeKind kind, std::vector<Variant> args) {
-  return vorlex::Invoke(Control(), dispid, kind, std::move(args));
+  Variant result = vorlex::Invoke(Control(), dispid, kind, std::move(args));
+  // Anything but a read may have changed what the container saves.
+  if (kind != InvokeKind::PropertyGet) dirty_ = true;
+  return result;
 }
 
 HRESULT VorlexControl::ReportError(int32_t number, const std::string& description) {

@@ -56,6 +56,14 @@ HRESULT VorlexControl::QueryInterface(REFIID iid, void** out) {
     *out = static_cast<IOleControl*>(this);
   else if (iid == IID_IViewObject || iid == IID_IViewObject2)
     *out = static_cast<IViewObject2*>(this);
+  else if (iid == IID_IPersist || iid == IID_IPersistStreamInit)
+    *out = static_cast<IPersistStreamInit*>(this);
+  else if (iid == IID_IPersistStream)
+    *out = static_cast<IPersistStreamInit*>(this);  // the same methods, InitNew aside
+  else if (iid == IID_IPersistStorage)
+    *out = static_cast<IPersistStorage*>(this);
+  else if (iid == IID_IPersistPropertyBag)
+    *out = static_cast<IPersistPropertyBag*>(this);
   else
     return E_NOINTERFACE;
   AddRef();

@@ -8,6 +8,7 @@
 //   control_embedding.cpp  IOleObject, IOleInPlaceObject, IOleInPlaceActiveObject,
 //                          IOleControl: the client site, ambients, the window
 //   control_view.cpp       IViewObject2 and the window's paint and mouse input
+//   control_persistence.cpp IPersistStreamInit, IPersistStorage, IPersistPropertyBag
 
 #include <memory>
 #include <string>
@@ -34,6 +35,9 @@ class VorlexControl final : public DualInterface,
                             public IOleInPlaceActiveObject,
                             public IOleControl,
                             public IViewObject2,
+                            public IPersistStreamInit,
+                            public IPersistStorage,
+                            public IPersistPropertyBag,
                             private SiteOwner,
                             private VorlexEvents,
                             private WindowOwner {
@@ -123,6 +127,21 @@ class VorlexControl final : public DualInterface,
   HRESULT STDMETHODCALLTYPE GetAdvise(DWORD* aspects, DWORD* flags, IAdviseSink** sink) override;
   HRESULT STDMETHODCALLTYPE GetExtent(DWORD aspect, LONG index, DVTARGETDEVICE* device, LPSIZEL size) override;
 
+  // IPersist and its three kinds
+  HRESULT STDMETHODCALLTYPE GetClassID(CLSID* clsid) override;
+  HRESULT STDMETHODCALLTYPE IsDirty() override;
+  HRESULT STDMETHODCALLTYPE InitNew() override;
+  HRESULT STDMETHODCALLTYPE Load(IStream* stream) override;
+  HRESULT STDMETHODCALLTYPE Save(IStream* stream, BOOL clearDirty) override;
+  HRESULT STDMETHODCALLTYPE GetSizeMax(ULARGE_INTEGER* size) override;
+  HRESULT STDMETHODCALLTYPE InitNew(IStorage* storage) override;
+  HRESULT STDMETHODCALLTYPE Load(IStorage* storage) override;
+  HRESULT STDMETHODCALLTYPE Save(IStorage* storage, BOOL sameAsLoad) override;
+  HRESULT STDMETHODCALLTYPE SaveCompleted(IStorage* storage) override;
+  HRESULT STDMETHODCALLTYPE HandsOffStorage() override;
+  HRESULT STDMETHODCALLTYPE Load(IPropertyBag* bag, IErrorLog* log) override;
+  HRESULT STDMETHODCALLTYPE Save(IPropertyBag* bag, BOOL clearDirty, BOOL saveAll) override;
+
   // The control, made and given the defaults of a newly placed one on first use
   // when no container initialised it.
   Vorlex& Control();
@@ -178,6 +197,10 @@ class VorlexControl final : public DualInterface,
   DWORD viewFlags_ = 0;
   SIZEL extent_{};  // HIMETRIC
   LONG frozenEvents_ = 0;
+  bool initialisedByContainer_ = false;
+  bool dirty_ = false;
+  // After a load: the window, if any, shows the loaded state.
+  void Loaded();
 };
 
 }  // namespace vorlex::activex
