@@ -84,6 +84,60 @@ std::optional<double> ParseNumericText(std::string_view text) {
 }
 
 namespace {
+bool IsValBlank(char c) { return c == ' ' || c == '\t' || c == '\n'; }
+
+// The &H / &O digits at the start of a text, as far as they go.
+double LeadingRadixValue(std::string_view digits, int radix) {
+  size_t end = 0;
+  while (end < digits.size() && end < 11) {
+    const char c = digits[end];
+    const bool ok = radix == 16 ? std::isxdigit(static_cast<unsigned char>(c)) != 0 : c >= '0' && c <= '7';
+    if (!ok) break;
+    ++end;
+  }
+  return ParseRadixLiteral(digits.substr(0, end), radix).value_or(0.0);
+}
+
+// The longest prefix of sign, digits, point, digits and exponent.
+size_t DecimalPrefixLength(std::string_view s) {
+  size_t i = 0;
+  if (i < s.size() && (s[i] == '+' || s[i] == '-')) ++i;
+  size_t digits = 0;
+  while (i < s.size() && IsDigit(s[i])) ++i, ++digits;
+  if (i < s.size() && s[i] == '.') {
+    ++i;
+    while (i < s.size() && IsDigit(s[i])) ++i, ++digits;
+  }
+  if (digits == 0) return 0;
+  if (i < s.size() && (s[i] == 'e' || s[i] == 'E' || s[i] == 'd' || s[i] == 'D')) {
+    size_t j = i + 1;
+    if (j < s.size() && (s[j] == '+' || s[j] == '-')) ++j;
+    const size_t expStart = j;
+    while (j < s.size() && IsDigit(s[j])) ++j;
+    if (j > expStart) i = j;
+  }
+  return i;
+}
+}  // namespace
+
+double LeadingNumericValue(std::string_view text) {
+  std::string packed;
+  packed.reserve(text.size());
+  for (char c : text) {
+    if (!IsValBlank(c)) packed += c;
+  }
+  if (packed.size() >= 2 && packed[0] == '&') {
+    const char kind = static_cast<char>(std::toupper(static_cast<unsigned char>(packed[1])));
+    if (kind == 'H') return LeadingRadixValue(std::string_view(packed).substr(2), 16);
+    if (kind == 'O') return LeadingRadixValue(std::string_view(packed).substr(2), 8);
+    return 0.0;
+  }
+  const size_t length = DecimalPrefixLength(packed);
+  if (length == 0) return 0.0;
+  return ParseNumericText(std::string_view(packed).substr(0, length)).value_or(0.0);
+}
+
+namespace {
 // Shortest decimal digits (up to maxDigits) that read back to the same value
 // at the given precision, laid out as Basic prints numbers.
 template <class T>

@@ -13,6 +13,12 @@ namespace vorlex {
 // decimal gives infinity; text that is no number gives nothing.
 std::optional<double> ParseNumericText(std::string_view text);
 
+// Basic's Val: the number at the start of a text, 0 when there is none. Blanks,
+// tabs and line feeds anywhere are skipped; reading stops at the first
+// character that cannot continue the number ("12 kg" gives 12, "1e3x" 1000,
+// "&H1F" 31, "abc" 0).
+double LeadingNumericValue(std::string_view text);
+
 std::string_view TrimSpaces(std::string_view text);
 bool EqualsIgnoringCase(std::string_view a, std::string_view b);
 
