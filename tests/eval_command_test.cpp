@@ -46,7 +46,7 @@ class Eval : public ::testing::Test {
     std::vector<Statement> statements;
     for (const char* text : texts) statements.push_back(ParseStatement(text));
     std::ostringstream out;
-    EvalStatements(control, statements, out);
+    EvalStatements(control, site, statements, out);
     return out.str();
   }
 
@@ -76,6 +76,14 @@ class PlainObject : public Object {};
 // Statements on a new control.
 
 TEST_F(Eval, AddBlockPrintsNothingAndBlocksCountsIt) { EXPECT_EQ(Run({"AddBlock", "Blocks"}), "1\n"); }
+
+TEST_F(Eval, AboutPrintsWhatTheAboutBoxWouldShow) {
+  const std::string shown = Run({"About"});
+  EXPECT_EQ(shown.rfind("About Vorlex ActiveX control\nVorlex\nVersion ", 0), 0u) << shown;
+  EXPECT_NE(shown.find("For more information on our products, contact us at :\n"), std::string::npos);
+  EXPECT_EQ(site.AboutBoxRequests(), 1);
+  EXPECT_EQ(Run({"ShowAboutBox", "Blocks"}), shown + "0\n") << "the same box, then the next statement";
+}
 
 TEST_F(Eval, EveryValueIsOneLineInStatementOrder) {
   EXPECT_EQ(Run({"Blocks", "AddBlock", "AddBlock", "Blocks"}), "0\n2\n");
@@ -224,9 +232,7 @@ TEST_F(Eval, MemberOfAPropertyThatGivesNoObjectPrintsError424) {
   EXPECT_EQ(Run({"CaptionAngle.Size", "Caption.Name = \"x\""}), "error 424\nerror 424\n");
 }
 
-TEST_F(Eval, MemberOfNothingPrintsError91) {
-  EXPECT_EQ(Run({"Picture = Nothing", "Picture.Type"}), "error 91\n");
-}
+TEST_F(Eval, MemberOfNothingPrintsError91) { EXPECT_EQ(Run({"Picture = Nothing", "Picture.Type"}), "error 91\n"); }
 
 TEST_F(Eval, PictureMembersGiveTypeHandleAndHimetricSize) {
   const picture_test::PictureFile files;

@@ -43,9 +43,9 @@ std::vector<AboutBox::Label> AboutBox::Labels() {
       {"lblVersion", VersionLine()},
       {"lblInformation",
        "For more information on our products, contact us at :\n"
-       "The Vorlex project, its issue tracker\n"
-       "and its README, beside the source"},
-      {"lblMaker", "Vorlex: a multi-purpose bar control, made by the Vorlex project."},
+       "Mail: the Vorlex developers, through the project's issues\n"
+       "Web: the Vorlex project's README"},
+      {"lblMaker", "Vorlex, the multi-purpose bar control, is made by the Vorlex project."},
   };
 }
 
