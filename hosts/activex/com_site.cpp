@@ -1,5 +1,6 @@
 #include "com_site.h"
 
+#include "about_dialog.h"
 #include "com_includes.h"
 
 namespace vorlex::activex {
@@ -19,6 +20,8 @@ float ScreenTwipsPerPixel(int axis) {
 ComSite::ComSite(SiteOwner& owner) : owner_(owner) {
   SetTwipsPerPixel(ScreenTwipsPerPixel(LOGPIXELSX), ScreenTwipsPerPixel(LOGPIXELSY));
 }
+
+void ComSite::ShowAboutBox() { ShowAboutDialog(window_ ? window_ : GetActiveWindow()); }
 
 void ComSite::AttachWindow(HWND window) {
   window_ = window;

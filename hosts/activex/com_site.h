@@ -19,7 +19,6 @@ class SiteOwner {
   virtual ~SiteOwner() = default;
   virtual VorlexEvents& EventSink() = 0;
   virtual void OnPropertyChanged(std::string_view name) = 0;
-  virtual void OnShowAboutBox() = 0;
 };
 
 class ComSite final : public HeadlessSite {
@@ -27,7 +26,8 @@ class ComSite final : public HeadlessSite {
   explicit ComSite(SiteOwner& owner);
 
   void PropertyChanged(std::string_view name) override { owner_.OnPropertyChanged(name); }
-  void ShowAboutBox() override { owner_.OnShowAboutBox(); }
+  // The About box, modal over the control's window or the active one.
+  void ShowAboutBox() override;
   VorlexEvents& Events() override { return owner_.EventSink(); }
   TimerService& Timers() override { return timers_; }
   WindowlessTimers& RunningTimers() { return timers_; }

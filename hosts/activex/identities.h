@@ -17,6 +17,17 @@ inline constexpr std::string_view kVersionedProgId = "VorlexLib.Vorlex.1";
 inline constexpr std::string_view kInterfaceId = "3A653B60-A38F-486C-93FC-69F0CC17ECEE";
 inline constexpr std::string_view kEventInterfaceId = "2A65550F-DDD8-41F9-9807-4F86D7A29FAE";
 
+// The property pages' classes, with the names their registry keys carry.
+struct PageClass {
+  std::string_view name;
+  std::string_view uuid;
+};
+inline constexpr std::array<PageClass, 3> kPageClasses = {{
+    {"Vorlex Block property page", "6E51D0BF-4086-4A2C-BAF1-3EE71E0CB742"},
+    {"Vorlex Caption property page", "AF900A0F-B386-4A4F-96A0-65D73138B070"},
+    {"Vorlex Boundaries property page", "0F852A94-3894-4F50-AB68-42844E14828D"},
+}};
+
 struct EnumerationId {
   std::string_view name;
   std::string_view uuid;

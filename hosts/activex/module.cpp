@@ -4,6 +4,7 @@
 #include "module.h"
 
 #include "com_includes.h"
+#include "property_page_object.h"
 #include "vorlex_control.h"
 
 namespace vorlex::activex {
@@ -13,8 +14,12 @@ namespace {
 HINSTANCE instance = nullptr;
 long references = 0;
 
+using Creator = HRESULT (*)(IUnknown* outer, REFIID iid, void** out);
+
 class ClassFactory final : public IClassFactory {
  public:
+  explicit constexpr ClassFactory(Creator create) : create_(create) {}
+
   HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** out) override {
     if (!out) return E_POINTER;
     *out = nullptr;
@@ -33,7 +38,7 @@ class ClassFactory final : public IClassFactory {
     return 1;
   }
   HRESULT STDMETHODCALLTYPE CreateInstance(IUnknown* outer, REFIID iid, void** out) override {
-    return VorlexControl::Create(outer, iid, out);
+    return create_(outer, iid, out);
   }
   HRESULT STDMETHODCALLTYPE LockServer(BOOL lock) override {
     if (lock)
@@ -42,9 +47,28 @@ class ClassFactory final : public IClassFactory {
       ModuleRelease();
     return S_OK;
   }
+
+ private:
+  Creator create_;
 };
 
-ClassFactory factory;
+template <PageKind kind>
+HRESULT CreatePage(IUnknown* outer, REFIID iid, void** out) {
+  return PropertyPageObject::Create(kind, outer, iid, out);
+}
+
+ClassFactory controlFactory(&VorlexControl::Create);
+ClassFactory blockPageFactory(&CreatePage<PageKind::Block>);
+ClassFactory captionPageFactory(&CreatePage<PageKind::Caption>);
+ClassFactory boundariesPageFactory(&CreatePage<PageKind::Boundaries>);
+
+ClassFactory* FactoryOf(REFCLSID clsid) {
+  if (clsid == CLSID_Vorlex) return &controlFactory;
+  if (clsid == PageClassId(PageKind::Block)) return &blockPageFactory;
+  if (clsid == PageClassId(PageKind::Caption)) return &captionPageFactory;
+  if (clsid == PageClassId(PageKind::Boundaries)) return &boundariesPageFactory;
+  return nullptr;
+}
 
 }  // namespace
 
@@ -73,8 +97,9 @@ extern "C" BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, LPVOID) {
 extern "C" HRESULT STDAPICALLTYPE DllGetClassObject(REFCLSID clsid, REFIID iid, void** out) {
   if (!out) return E_POINTER;
   *out = nullptr;
-  if (clsid != CLSID_Vorlex) return CLASS_E_CLASSNOTAVAILABLE;
-  return vorlex::activex::factory.QueryInterface(iid, out);
+  vorlex::activex::ClassFactory* factory = vorlex::activex::FactoryOf(clsid);
+  if (!factory) return CLASS_E_CLASSNOTAVAILABLE;
+  return factory->QueryInterface(iid, out);
 }
 
 extern "C" HRESULT STDAPICALLTYPE DllCanUnloadNow() {

@@ -59,6 +59,18 @@ std::vector<Value> ClassValues() {
   };
 }
 
+// The property pages: in-process classes of the same module.
+std::vector<Value> PageValues() {
+  std::vector<Value> values;
+  for (const PageClass& page : kPageClasses) {
+    const std::wstring clsid = L"CLSID\\" + Braced(page.uuid);
+    values.push_back({clsid, L"", Wide(page.name)});
+    values.push_back({clsid + L"\\InprocServer32", L"", ModulePath()});
+    values.push_back({clsid + L"\\InprocServer32", L"ThreadingModel", L"Apartment"});
+  }
+  return values;
+}
+
 // The type library's keys, written by hand for a per-user registration (the
 // system's own registration writes them machine-wide).
 std::vector<Value> TypeLibraryValues() {
@@ -88,6 +100,7 @@ std::vector<Value> TypeLibraryValues() {
 // The keys to delete, whole, on unregistration.
 std::vector<std::wstring> OwnedKeys(bool withTypeLibrary) {
   std::vector<std::wstring> keys = {L"CLSID\\" + Braced(kClassId), Wide(kProgId), Wide(kVersionedProgId)};
+  for (const PageClass& page : kPageClasses) keys.push_back(L"CLSID\\" + Braced(page.uuid));
   if (withTypeLibrary) {
     keys.push_back(L"TypeLib\\" + Braced(kLibraryId));
     keys.push_back(L"Interface\\" + Braced(kInterfaceId));
@@ -126,6 +139,7 @@ HRESULT Register(bool perUser) {
   HRESULT result = OpenClasses(perUser, &classes);
   if (FAILED(result)) return result;
   result = Write(classes, ClassValues());
+  if (SUCCEEDED(result)) result = Write(classes, PageValues());
   if (SUCCEEDED(result) && perUser) result = Write(classes, TypeLibraryValues());
   RegCloseKey(classes);
   if (FAILED(result) || perUser) return result;

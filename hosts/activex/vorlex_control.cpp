@@ -64,6 +64,8 @@ HRESULT VorlexControl::QueryInterface(REFIID iid, void** out) {
     *out = static_cast<IPersistStorage*>(this);
   else if (iid == IID_IPersistPropertyBag)
     *out = static_cast<IPersistPropertyBag*>(this);
+  else if (iid == IID_ISpecifyPropertyPages)
+    *out = static_cast<ISpecifyPropertyPages*>(this);
   else
     return E_NOINTERFACE;
   AddRef();

@@ -9,6 +9,7 @@
 //                          IOleControl: the client site, ambients, the window
 //   control_view.cpp       IViewObject2 and the window's paint and mouse input
 //   control_persistence.cpp IPersistStreamInit, IPersistStorage, IPersistPropertyBag
+//   control_property_pages.cpp ISpecifyPropertyPages: the Block, Caption and Boundaries pages
 
 #include <memory>
 #include <string>
@@ -38,6 +39,7 @@ class VorlexControl final : public DualInterface,
                             public IPersistStreamInit,
                             public IPersistStorage,
                             public IPersistPropertyBag,
+                            public ISpecifyPropertyPages,
                             private SiteOwner,
                             private VorlexEvents,
                             private WindowOwner {
@@ -142,6 +144,9 @@ class VorlexControl final : public DualInterface,
   HRESULT STDMETHODCALLTYPE Load(IPropertyBag* bag, IErrorLog* log) override;
   HRESULT STDMETHODCALLTYPE Save(IPropertyBag* bag, BOOL clearDirty, BOOL saveAll) override;
 
+  // ISpecifyPropertyPages
+  HRESULT STDMETHODCALLTYPE GetPages(CAUUID* pages) override;
+
   // The control, made and given the defaults of a newly placed one on first use
   // when no container initialised it.
   Vorlex& Control();
@@ -158,7 +163,6 @@ class VorlexControl final : public DualInterface,
   // SiteOwner
   VorlexEvents& EventSink() override { return *this; }
   void OnPropertyChanged(std::string_view name) override;
-  void OnShowAboutBox() override {}
 
   // VorlexEvents: raised to the connected __Vorlex sinks.
   void BlockClicked(int16_t& iBlock) override;
