@@ -1,0 +1,115 @@
+#include "page_dialog.h"
+
+#include <QDialogButtonBox>
+#include <QMessageBox>
+#include <QVBoxLayout>
+
+#include "editors/block_page.h"
+#include "editors/boundaries_page.h"
+#include "editors/caption_page.h"
+#include "qt_dialogs.h"
+#include "vorlex/AutomationError.h"
+#include "vorlex/qt/VorlexWidget.h"
+
+namespace vorlex::qt {
+
+namespace {
+std::unique_ptr<editors::PropertyPage> MakePage(PageKind kind, QtPageView& view, editors::DialogService& dialogs) {
+  switch (kind) {
+    case PageKind::Block:
+      return std::make_unique<editors::BlockPage>(view, dialogs);
+    case PageKind::Caption:
+      return std::make_unique<editors::CaptionPage>(view, dialogs);
+    case PageKind::Boundaries:
+      break;
+  }
+  return std::make_unique<editors::BoundariesPage>(view, dialogs);
+}
+
+QString Title(std::string_view caption) {
+  QString title = QString::fromUtf8(caption.data(), static_cast<qsizetype>(caption.size()));
+  title.remove(QLatin1Char('&'));
+  return title;
+}
+}  // namespace
+
+PageDialog::PageDialog(PageKind kind, VorlexWidget& widget, QWidget* parent, editors::DialogService* dialogs)
+    : QDialog(parent), object_(std::make_unique<editors::AutomationControlObject>(widget.control())) {
+  if (!dialogs) {
+    ownDialogs_ = std::make_unique<QtDialogs>(this);
+    dialogs = ownDialogs_.get();
+  }
+  auto* layout = new QVBoxLayout(this);
+  auto* content = new QWidget(this);
+  layout->addWidget(content);
+  switch (kind) {
+    case PageKind::Block:
+      BuildBlockPage(view_, content);
+      break;
+    case PageKind::Caption:
+      BuildCaptionPage(view_, content);
+      break;
+    case PageKind::Boundaries:
+      BuildBoundariesPage(view_, content);
+      break;
+  }
+  // The page's constructor fills the lists, so the widgets come first.
+  page_ = MakePage(kind, view_, *dialogs);
+  setWindowTitle(Title(page_->Caption()));
+
+  auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel | QDialogButtonBox::Apply, this);
+  buttons->button(QDialogButtonBox::Ok)->setObjectName(QStringLiteral("OK"));
+  buttons->button(QDialogButtonBox::Cancel)->setObjectName(QStringLiteral("Cancel"));
+  apply_ = buttons->button(QDialogButtonBox::Apply);
+  apply_->setObjectName(QStringLiteral("Apply"));
+  apply_->setEnabled(false);
+  layout->addWidget(buttons);
+  connect(apply_, &QPushButton::clicked, this, [this] { Apply(); });
+  connect(buttons, &QDialogButtonBox::accepted, this, [this] {
+    Apply();
+    accept();
+  });
+  connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+
+  view_.SetChangedListener([this](bool changed) { apply_->setEnabled(changed); });
+  view_.SetRoute([this](const std::string& control) { Route(control); });
+  page_->SetSelectedControls({object_.get()});
+  try {
+    page_->SelectionChanged();
+  } catch (const std::exception& e) {
+    Report(e);
+  }
+}
+
+PageDialog::~PageDialog() {
+  // The view outlives the page's last use; stop routing before teardown.
+  view_.SetRoute({});
+  view_.SetChangedListener({});
+}
+
+void PageDialog::Route(const std::string& control) {
+  try {
+    page_->ControlEvent(control);
+  } catch (const std::exception& e) {
+    Report(e);
+  }
+}
+
+void PageDialog::Apply() {
+  if (!page_->Changed()) return;
+  try {
+    page_->ApplyChanges();
+    page_->SetChanged(false);
+  } catch (const std::exception& e) {
+    Report(e);
+  }
+}
+
+void PageDialog::Report(const std::exception& error) {
+  const auto* automation = dynamic_cast<const AutomationError*>(&error);
+  const QString text = automation ? QStringLiteral("Error %1: %2").arg(automation->Number()).arg(error.what())
+                                  : QString::fromUtf8(error.what());
+  QMessageBox::warning(this, windowTitle(), text);
+}
+
+}  // namespace vorlex::qt

@@ -1,0 +1,49 @@
+#pragma once
+// One property page of the control as a Qt dialog: the page's widgets (its
+// layout), its logic over them, and OK, Cancel and Apply. Apply is enabled
+// by the page's changed flag.
+
+#include <QDialog>
+#include <QPushButton>
+#include <memory>
+
+#include "editors/control_object.h"
+#include "editors/property_page.h"
+#include "qt_page_view.h"
+
+namespace vorlex::qt {
+
+class VorlexWidget;
+
+enum class PageKind { Block, Caption, Boundaries };
+
+class PageDialog final : public QDialog {
+ public:
+  // dialogs: the system dialogs to use; Qt's own when null.
+  PageDialog(PageKind kind, VorlexWidget& widget, QWidget* parent = nullptr, editors::DialogService* dialogs = nullptr);
+  ~PageDialog() override;
+
+  editors::PropertyPage& Page() { return *page_; }
+  QtPageView& View() { return view_; }
+  QPushButton* ApplyButton() const { return apply_; }
+  // Writes the page to the control and clears the changed flag.
+  void Apply();
+
+ private:
+  void Route(const std::string& control);
+  void Report(const std::exception& error);
+
+  QtPageView view_;
+  std::unique_ptr<editors::DialogService> ownDialogs_;
+  std::unique_ptr<editors::ControlObject> object_;
+  std::unique_ptr<editors::PropertyPage> page_;
+  QPushButton* apply_ = nullptr;
+};
+
+// The page layouts: each builds its widgets into the container and registers
+// them with the view under the logic's names.
+void BuildBlockPage(QtPageView& view, QWidget* container);
+void BuildCaptionPage(QtPageView& view, QWidget* container);
+void BuildBoundariesPage(QtPageView& view, QWidget* container);
+
+}  // namespace vorlex::qt

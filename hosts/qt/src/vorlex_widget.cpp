@@ -1,0 +1,204 @@
+// The widget: painting, resizing, mouse input, pass-through changes, forms.
+
+#include <QEvent>
+#include <QFile>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QResizeEvent>
+
+#include "qt_convert.h"
+#include "vorlex/AutomationError.h"
+#include "vorlex/FormText.h"
+#include "vorlex_widget_private.h"
+
+namespace vorlex::qt {
+
+namespace {
+constexpr int16_t kLeftButton = 1;
+constexpr int16_t kRightButton = 2;
+constexpr int16_t kMiddleButton = 4;
+constexpr int16_t kShiftMask = 1;
+constexpr int16_t kCtrlMask = 2;
+constexpr int16_t kAltMask = 4;
+
+int16_t ButtonOf(Qt::MouseButton button) {
+  switch (button) {
+    case Qt::LeftButton:
+      return kLeftButton;
+    case Qt::RightButton:
+      return kRightButton;
+    case Qt::MiddleButton:
+      return kMiddleButton;
+    default:
+      return 0;
+  }
+}
+
+int16_t ShiftOf(Qt::KeyboardModifiers modifiers) {
+  int16_t shift = 0;
+  if (modifiers & Qt::ShiftModifier) shift |= kShiftMask;
+  if (modifiers & Qt::ControlModifier) shift |= kCtrlMask;
+  if (modifiers & Qt::AltModifier) shift |= kAltMask;
+  return shift;
+}
+}  // namespace
+
+VorlexWidget::VorlexWidget(QWidget* parent) : QWidget(parent), d(std::make_unique<Private>(*this)) {
+  // The control paints every pixel of the widget from its own surface.
+  setAttribute(Qt::WA_OpaquePaintEvent);
+  setAttribute(Qt::WA_NoSystemBackground);
+  resize(sizeHint());
+  d->site.SyncSize();
+  d->control.InitProperties();
+}
+
+VorlexWidget::~VorlexWidget() = default;
+
+vorlex::Vorlex& VorlexWidget::control() { return d->control; }
+const vorlex::Vorlex& VorlexWidget::control() const { return d->control; }
+
+// 900 x 315 twips, a newly placed control's size.
+QSize VorlexWidget::sizeHint() const { return {60, 21}; }
+
+bool VorlexWidget::userMode() const { return d->site.AmbientUserMode(); }
+void VorlexWidget::setUserMode(bool userMode) { d->site.SetUserMode(userMode); }
+void VorlexWidget::setDiskService(std::unique_ptr<vorlex::DiskService> disks) {
+  if (disks) d->site.SetDisks(std::move(disks));
+}
+void VorlexWidget::setClockService(std::unique_ptr<vorlex::ClockService> clock) {
+  if (clock) d->site.SetClock(std::move(clock));
+}
+
+void VorlexWidget::paintEvent(QPaintEvent*) {
+  d->site.SyncSize();
+  d->site.painting = true;
+  try {
+    d->control.UserControl_Paint();
+  } catch (const std::exception& e) {
+    // The window keeps what the part drawn so far left on it.
+    qWarning("Vorlex: painting failed: %s", e.what());
+  }
+  d->site.painting = false;
+  const QImage image = d->site.WindowImage();
+  QPainter painter(this);
+  // The window is in logical pixels; on a high-density screen the painter
+  // scales it to the device's pixels.
+  if (image.isNull()) {
+    painter.fillRect(rect(), Qt::black);
+  } else {
+    painter.drawImage(QRect(0, 0, image.width(), image.height()), image);
+  }
+}
+
+void VorlexWidget::resizeEvent(QResizeEvent*) { d->site.SyncSize(); }
+
+void VorlexWidget::mousePressEvent(QMouseEvent* event) {
+  d->pressed = true;
+  event->accept();
+}
+
+void VorlexWidget::mouseReleaseEvent(QMouseEvent* event) {
+  const QPointF at = event->position();
+  const bool click = d->pressed && !d->afterDoubleClick && rect().contains(at.toPoint());
+  d->pressed = false;
+  d->afterDoubleClick = false;
+  try {
+    d->control.UserControl_MouseUp(ButtonOf(event->button()), ShiftOf(event->modifiers()), static_cast<float>(at.x()),
+                                   static_cast<float>(at.y()));
+    if (click) d->control.UserControl_Click();
+  } catch (const AutomationError& e) {
+    qWarning("Vorlex: %s", e.what());
+  }
+  event->accept();
+}
+
+void VorlexWidget::mouseDoubleClickEvent(QMouseEvent* event) {
+  d->pressed = true;
+  d->afterDoubleClick = true;
+  d->control.UserControl_DblClick();
+  event->accept();
+}
+
+void VorlexWidget::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  if (!d) return;
+  switch (event->type()) {
+    case QEvent::FontChange:
+      // A font given to the widget (Designer, a style sheet) becomes the control's.
+      if (!d->site.settingFont && !SameFont(*d->site.Font(), font())) d->control.putref_Font(ToVorlexFont(font()));
+      break;
+    case QEvent::EnabledChange:
+      // The disabled look is drawn by the control: colours become DisabledColor.
+      update();
+      break;
+    default:
+      break;
+  }
+}
+
+bool VorlexWidget::loadForm(const QString& path, QString* error) {
+  QFile file(path);
+  if (!file.open(QIODevice::ReadOnly)) {
+    if (error) *error = path + ": " + file.errorString();
+    return false;
+  }
+  const QByteArray text = file.readAll();
+  // Resources have no folder on disk; their pictures resolve from the
+  // current folder.
+  const std::string anchor = path.startsWith(QLatin1Char(':')) ? std::string("form.frm") : path.toStdString();
+  try {
+    std::vector<FormControl> forms =
+        ReadFormText(std::string_view(text.constData(), static_cast<size_t>(text.size())), anchor);
+    if (forms.empty()) {
+      if (error) *error = path + ": the form holds no Vorlex control";
+      return false;
+    }
+    ApplyForm(d->control, forms.front(), anchor);
+  } catch (const FormError& e) {
+    if (error) *error = QString::fromStdString(e.what());
+    return false;
+  }
+  update();
+  return true;
+}
+
+bool VorlexWidget::saveForm(const QString& path, QString* error) const {
+  const QString name = objectName().isEmpty() ? QStringLiteral("Vorlex1") : objectName();
+  try {
+    SaveForm(d->control, name.toStdString(), path.toStdString());
+  } catch (const FormError& e) {
+    if (error) *error = QString::fromStdString(e.what());
+    return false;
+  }
+  return true;
+}
+
+// Files the text refers to live in a folder of the widget's own, so that the
+// text read back in the same session finds them.
+QString VorlexWidget::formText() const {
+  if (!d->formFiles) d->formFiles = std::make_unique<QTemporaryDir>();
+  const QString name = objectName().isEmpty() ? QStringLiteral("Vorlex1") : objectName();
+  try {
+    return QString::fromStdString(
+        SaveFormText(d->control, name.toStdString(), d->formFiles->filePath(QStringLiteral("form.frm")).toStdString()));
+  } catch (const FormError& e) {
+    qWarning("Vorlex: %s", e.what());
+    return {};
+  }
+}
+
+void VorlexWidget::setFormText(const QString& text) {
+  if (text.trimmed().isEmpty()) return;
+  if (!d->formFiles) d->formFiles = std::make_unique<QTemporaryDir>();
+  const std::string anchor = d->formFiles->filePath(QStringLiteral("form.frm")).toStdString();
+  try {
+    std::vector<FormControl> forms = ReadFormText(text.toStdString(), anchor);
+    if (forms.empty()) return;
+    ApplyForm(d->control, forms.front(), anchor);
+  } catch (const FormError& e) {
+    qWarning("Vorlex: %s", e.what());
+  }
+  update();
+}
+
+}  // namespace vorlex::qt
