@@ -31,8 +31,9 @@ std::optional<double> ParseRadixLiteral(std::string_view body, int radix) {
   return std::nullopt;
 }
 
-// Sign, digits, optional point and fraction, optional exponent; at least one digit.
-bool IsDecimalSyntax(std::string_view s) {
+// The longest prefix of sign, digits, point, digits and exponent (an exponent
+// only with its digits); 0 when there is no digit.
+size_t DecimalPrefixLength(std::string_view s) {
   size_t i = 0;
   if (i < s.size() && (s[i] == '+' || s[i] == '-')) ++i;
   size_t digits = 0;
@@ -41,15 +42,21 @@ bool IsDecimalSyntax(std::string_view s) {
     ++i;
     while (i < s.size() && IsDigit(s[i])) ++i, ++digits;
   }
-  if (digits == 0) return false;
+  if (digits == 0) return 0;
   if (i < s.size() && (s[i] == 'e' || s[i] == 'E' || s[i] == 'd' || s[i] == 'D')) {
-    ++i;
-    if (i < s.size() && (s[i] == '+' || s[i] == '-')) ++i;
-    size_t expDigits = 0;
-    while (i < s.size() && IsDigit(s[i])) ++i, ++expDigits;
-    if (expDigits == 0) return false;
+    size_t j = i + 1;
+    if (j < s.size() && (s[j] == '+' || s[j] == '-')) ++j;
+    const size_t expStart = j;
+    while (j < s.size() && IsDigit(s[j])) ++j;
+    if (j > expStart) i = j;
   }
-  return i == s.size();
+  return i;
+}
+
+// Sign, digits, optional point and fraction, optional exponent; at least one digit.
+bool IsDecimalSyntax(std::string_view s) {
+  const size_t length = DecimalPrefixLength(s);
+  return length > 0 && length == s.size();
 }
 }  // namespace
 
@@ -98,26 +105,6 @@ double LeadingRadixValue(std::string_view digits, int radix) {
   return ParseRadixLiteral(digits.substr(0, end), radix).value_or(0.0);
 }
 
-// The longest prefix of sign, digits, point, digits and exponent.
-size_t DecimalPrefixLength(std::string_view s) {
-  size_t i = 0;
-  if (i < s.size() && (s[i] == '+' || s[i] == '-')) ++i;
-  size_t digits = 0;
-  while (i < s.size() && IsDigit(s[i])) ++i, ++digits;
-  if (i < s.size() && s[i] == '.') {
-    ++i;
-    while (i < s.size() && IsDigit(s[i])) ++i, ++digits;
-  }
-  if (digits == 0) return 0;
-  if (i < s.size() && (s[i] == 'e' || s[i] == 'E' || s[i] == 'd' || s[i] == 'D')) {
-    size_t j = i + 1;
-    if (j < s.size() && (s[j] == '+' || s[j] == '-')) ++j;
-    const size_t expStart = j;
-    while (j < s.size() && IsDigit(s[j])) ++j;
-    if (j > expStart) i = j;
-  }
-  return i;
-}
 }  // namespace
 
 double LeadingNumericValue(std::string_view text) {
