@@ -1,6 +1,7 @@
 #include "win32_page_view.h"
 
 #include <commctrl.h>
+#include <uxtheme.h>
 
 #include <algorithm>
 #include <utility>
@@ -66,6 +67,28 @@ LRESULT CALLBACK PreviewBoxProc(HWND box, UINT message, WPARAM wParam, LPARAM lP
     default:
       return DefWindowProcW(box, message, wParam, lParam);
   }
+}
+
+// A frame on a tab paints its inside with the tab's face first: the tab
+// leaves the frame's place to it, and the frame itself would paint no more
+// than its edge and caption.
+LRESULT CALLBACK FrameOnTabProc(HWND frame, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR, DWORD_PTR) {
+  if (message == WM_PAINT) {
+    HDC dc = GetDC(frame);
+    RECT client;
+    GetClientRect(frame, &client);
+    auto brush = reinterpret_cast<HBRUSH>(SendMessageW(GetParent(frame), WM_CTLCOLORSTATIC,
+                                                       reinterpret_cast<WPARAM>(dc), reinterpret_cast<LPARAM>(frame)));
+    FillRect(dc, &client, brush ? brush : GetSysColorBrush(COLOR_BTNFACE));
+    ReleaseDC(frame, dc);
+  }
+  return DefSubclassProc(frame, message, wParam, lParam);
+}
+
+bool IsFrame(HWND window) {
+  wchar_t className[16] = {};
+  GetClassNameW(window, className, 16);
+  return lstrcmpiW(className, L"Button") == 0 && (GetWindowLongW(window, GWL_STYLE) & BS_TYPEMASK) == BS_GROUPBOX;
 }
 
 }  // namespace
@@ -145,8 +168,21 @@ void Win32PageView::Attach(HWND dialog) {
     }
     SendMessageW(window, TCM_SETCURSEL, 0, 0);
   }
-  // The tabs lie under the controls they hold: nested ones first to the
-  // bottom, then the outermost below them.
+  // Labels, check boxes and frames on a tab take the tab's face, as the
+  // theme paints it.
+  if (!layout_.tabs.empty()) EnableThemeDialogTexture(dialog_, ETDT_ENABLETAB);
+  // The tabs lie under the controls they hold: frames on tabs lowest of the
+  // controls, clipped by what lies in them; the nested tabs below them, the
+  // outermost at the bottom.
+  for (HWND child = GetWindow(dialog_, GW_CHILD); child;) {
+    HWND next = GetWindow(child, GW_HWNDNEXT);
+    if (RegionOf(GetDlgCtrlID(child)) && IsFrame(child)) {
+      SetWindowLongW(child, GWL_STYLE, GetWindowLongW(child, GWL_STYLE) | WS_CLIPSIBLINGS);
+      SetWindowPos(child, HWND_BOTTOM, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+      SetWindowSubclass(child, FrameOnTabProc, 1, 0);
+    }
+    child = next;
+  }
   for (auto tab = layout_.tabs.rbegin(); tab != layout_.tabs.rend(); ++tab)
     SetWindowPos(GetDlgItem(dialog_, tab->id), HWND_BOTTOM, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
   for (const NamedControl& c : layout_.controls) {
