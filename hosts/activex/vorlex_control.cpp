@@ -66,6 +66,8 @@ HRESULT VorlexControl::QueryInterface(REFIID iid, void** out) {
     *out = static_cast<IPersistPropertyBag*>(this);
   else if (iid == IID_ISpecifyPropertyPages)
     *out = static_cast<ISpecifyPropertyPages*>(this);
+  else if (iid == IID_IQuickActivate)
+    *out = static_cast<IQuickActivate*>(this);
   else
     return E_NOINTERFACE;
   AddRef();

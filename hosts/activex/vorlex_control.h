@@ -10,6 +10,7 @@
 //   control_view.cpp       IViewObject2 and the window's paint and mouse input
 //   control_persistence.cpp IPersistStreamInit, IPersistStorage, IPersistPropertyBag
 //   control_property_pages.cpp ISpecifyPropertyPages: the Block, Caption and Boundaries pages
+//   control_quick_activate.cpp IQuickActivate: site, sinks and status in one call
 
 #include <memory>
 #include <string>
@@ -40,6 +41,7 @@ class VorlexControl final : public DualInterface,
                             public IPersistStorage,
                             public IPersistPropertyBag,
                             public ISpecifyPropertyPages,
+                            public IQuickActivate,
                             private SiteOwner,
                             private VorlexEvents,
                             private WindowOwner {
@@ -146,6 +148,11 @@ class VorlexControl final : public DualInterface,
 
   // ISpecifyPropertyPages
   HRESULT STDMETHODCALLTYPE GetPages(CAUUID* pages) override;
+
+  // IQuickActivate
+  HRESULT STDMETHODCALLTYPE QuickActivate(QACONTAINER* container, QACONTROL* control) override;
+  HRESULT STDMETHODCALLTYPE SetContentExtent(LPSIZEL size) override;
+  HRESULT STDMETHODCALLTYPE GetContentExtent(LPSIZEL size) override;
 
   // The control, made and given the defaults of a newly placed one on first use
   // when no container initialised it.
