@@ -6,59 +6,13 @@
 #include <vector>
 
 #include "ocx_fixture.h"
+#include "test_sinks.h"
 #include "vorlex/Automation.h"
 #include "vorlex/HeadlessSite.h"
 #include "vorlex/Vorlex.h"
 
 namespace vorlex::activex::test {
 namespace {
-
-// A client site whose IDispatch answers the ambient UserMode.
-class AmbientSite final : public IOleClientSite, public IDispatch {
- public:
-  bool userMode = false;
-  ULONG refs = 1;
-
-  HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** out) override {
-    *out = nullptr;
-    if (iid == IID_IUnknown || iid == IID_IOleClientSite)
-      *out = static_cast<IOleClientSite*>(this);
-    else if (iid == IID_IDispatch)
-      *out = static_cast<IDispatch*>(this);
-    else
-      return E_NOINTERFACE;
-    ++refs;
-    return S_OK;
-  }
-  ULONG STDMETHODCALLTYPE AddRef() override { return ++refs; }
-  ULONG STDMETHODCALLTYPE Release() override { return --refs; }
-  HRESULT STDMETHODCALLTYPE SaveObject() override { return S_OK; }
-  HRESULT STDMETHODCALLTYPE GetMoniker(DWORD, DWORD, IMoniker** m) override {
-    *m = nullptr;
-    return E_NOTIMPL;
-  }
-  HRESULT STDMETHODCALLTYPE GetContainer(IOleContainer** c) override {
-    *c = nullptr;
-    return E_NOINTERFACE;
-  }
-  HRESULT STDMETHODCALLTYPE ShowObject() override { return S_OK; }
-  HRESULT STDMETHODCALLTYPE OnShowWindow(BOOL) override { return S_OK; }
-  HRESULT STDMETHODCALLTYPE RequestNewObjectLayout() override { return E_NOTIMPL; }
-  HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* n) override {
-    *n = 0;
-    return S_OK;
-  }
-  HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
-  HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override { return E_NOTIMPL; }
-  HRESULT STDMETHODCALLTYPE Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS*, VARIANT* result, EXCEPINFO*,
-                                   UINT*) override {
-    if (id != DISPID_AMBIENT_USERMODE || !result) return DISP_E_MEMBERNOTFOUND;
-    VariantInit(result);
-    V_VT(result) = VT_BOOL;
-    V_BOOL(result) = userMode ? VARIANT_TRUE : VARIANT_FALSE;
-    return S_OK;
-  }
-};
 
 class AmbientContainer : public OcxTest {
  protected:
@@ -126,26 +80,7 @@ TEST_F(AmbientContainer, MiscStatusAndExtentAreThoseOfAnInsideOutControl) {
 TEST_F(AmbientContainer, FrozenEventsAreHeldBack) {
   Ref<IOleControl> ole;
   ASSERT_EQ(control->QueryInterface(IID_IOleControl, ole.put_void()), S_OK);
-  struct Counter final : IDispatch {
-    int calls = 0;
-    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** out) override {
-      *out = (iid == IID_IUnknown || iid == IID_IDispatch || iid == DIID___Vorlex) ? this : nullptr;
-      return *out ? S_OK : E_NOINTERFACE;
-    }
-    ULONG STDMETHODCALLTYPE AddRef() override { return 2; }
-    ULONG STDMETHODCALLTYPE Release() override { return 1; }
-    HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* n) override {
-      *n = 0;
-      return S_OK;
-    }
-    HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE Invoke(DISPID, REFIID, LCID, WORD, DISPPARAMS*, VARIANT*, EXCEPINFO*, UINT*) override {
-      ++calls;
-      return S_OK;
-    }
-  };
-  static Counter counter;  // outlives the control
+  static RecordingEvents counter;  // outlives the control
   Ref<IConnectionPointContainer> container;
   ASSERT_EQ(control->QueryInterface(IID_IConnectionPointContainer, container.put_void()), S_OK);
   Ref<IConnectionPoint> point;
@@ -156,29 +91,13 @@ TEST_F(AmbientContainer, FrozenEventsAreHeldBack) {
   ASSERT_EQ(Put(L"TimerTimeInterval", I4(10)), S_OK);
   ASSERT_EQ(Put(L"TimerTimeEnabled", Bool(true)), S_OK);
   PumpMessages(120);
-  EXPECT_EQ(counter.calls, 0);
+  EXPECT_EQ(counter.raised.size(), 0u);
   ASSERT_EQ(ole->FreezeEvents(FALSE), S_OK);
   PumpMessages(120);
-  EXPECT_GT(counter.calls, 0);
+  EXPECT_GT(counter.raised.size(), 0u);
   ASSERT_EQ(Put(L"TimerTimeEnabled", Bool(false)), S_OK);
   point->Unadvise(cookie);
 }
-
-class NotifySink final : public IPropertyNotifySink {
- public:
-  std::vector<DISPID> changed;
-  HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** out) override {
-    *out = (iid == IID_IUnknown || iid == IID_IPropertyNotifySink) ? this : nullptr;
-    return *out ? S_OK : E_NOINTERFACE;
-  }
-  ULONG STDMETHODCALLTYPE AddRef() override { return 2; }
-  ULONG STDMETHODCALLTYPE Release() override { return 1; }
-  HRESULT STDMETHODCALLTYPE OnChanged(DISPID id) override {
-    changed.push_back(id);
-    return S_OK;
-  }
-  HRESULT STDMETHODCALLTYPE OnRequestEdit(DISPID) override { return S_OK; }
-};
 
 // The dispatch ids of the names the library's own control notifies when the
 // property is given its current value again.
@@ -196,7 +115,7 @@ std::vector<DISPID> NotifiedByTheLibrary(const MemberInfo& put) {
 }
 
 TEST_F(AmbientContainer, EveryNotifiedPropertyArrivesAsOnChangedWithItsDispatchId) {
-  static NotifySink sink;  // outlives the control
+  static RecordingChanges sink;  // outlives the control
   Ref<IConnectionPointContainer> container;
   ASSERT_EQ(control->QueryInterface(IID_IConnectionPointContainer, container.put_void()), S_OK);
   Ref<IConnectionPoint> point;

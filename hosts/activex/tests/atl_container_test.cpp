@@ -4,42 +4,13 @@
 #include <vector>
 
 #include "ocx_fixture.h"
+#include "test_sinks.h"
 #include "vorlex/Automation.h"
 #include "vorlex/HeadlessSite.h"
 #include "vorlex/Vorlex.h"
 
 namespace vorlex::activex::test {
 namespace {
-
-// Records what the control raises.
-class Sink final : public IDispatch {
- public:
-  std::vector<DISPID> events;
-  std::vector<short> clicked;
-  HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** out) override {
-    *out = nullptr;
-    if (iid != IID_IUnknown && iid != IID_IDispatch && iid != DIID___Vorlex) return E_NOINTERFACE;
-    *out = this;
-    AddRef();
-    return S_OK;
-  }
-  ULONG STDMETHODCALLTYPE AddRef() override { return ++refs; }
-  ULONG STDMETHODCALLTYPE Release() override { return --refs; }
-  HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* n) override {
-    *n = 0;
-    return S_OK;
-  }
-  HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
-  HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override { return E_NOTIMPL; }
-  HRESULT STDMETHODCALLTYPE Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS* params, VARIANT*, EXCEPINFO*,
-                                   UINT*) override {
-    events.push_back(id);
-    if (id == 1 && params && params->cArgs == 1 && V_VT(&params->rgvarg[0]) == (VT_I2 | VT_BYREF))
-      clicked.push_back(*V_I2REF(&params->rgvarg[0]));
-    return S_OK;
-  }
-  ULONG refs = 1;
-};
 
 using AxWinInit = BOOL(WINAPI*)();
 using AxGetControl = HRESULT(WINAPI*)(HWND, IUnknown**);
@@ -152,7 +123,7 @@ class AtlContainer : public OcxTest {
   AxGetControl getControl = nullptr;
   HWND frame = nullptr;
   HWND host = nullptr;
-  Sink sink;
+  RecordingEvents sink;
   Ref<IConnectionPoint> point;
 };
 
@@ -204,16 +175,16 @@ TEST_F(AtlContainer, TimeTimerTicksAndDestroyingTheWindowStopsItAndFreesTheModul
   ASSERT_EQ(Put(L"TimerTimeEnabled", Bool(true)), S_OK);
   PumpMessages(200);
   size_t ticks = 0;
-  for (DISPID id : sink.events) ticks += id == 2;
+  for (DISPID id : sink.raised) ticks += id == 2;
   EXPECT_GT(ticks, 0u);
   point.Reset();
   control.Reset();
   DestroyWindow(frame);
   frame = nullptr;
   PumpMessages(50);
-  const size_t after = sink.events.size();
+  const size_t after = sink.raised.size();
   PumpMessages(150);
-  EXPECT_EQ(sink.events.size(), after) << "no tick after the window is gone";
+  EXPECT_EQ(sink.raised.size(), after) << "no tick after the window is gone";
   EXPECT_EQ(sink.refs, 1u);
   EXPECT_EQ(CanUnloadNow(), S_OK);
 }

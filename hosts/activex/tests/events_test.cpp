@@ -4,55 +4,10 @@
 #include <vector>
 
 #include "ocx_fixture.h"
+#include "test_sinks.h"
 
 namespace vorlex::activex::test {
 namespace {
-
-// A sink for __Vorlex, as a container's event handler table answers it.
-class EventSink final : public IDispatch {
- public:
-  std::vector<DISPID> calls;
-  HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** out) override {
-    *out = nullptr;
-    if (iid != IID_IUnknown && iid != IID_IDispatch && iid != DIID___Vorlex) return E_NOINTERFACE;
-    *out = this;
-    AddRef();
-    return S_OK;
-  }
-  ULONG STDMETHODCALLTYPE AddRef() override { return ++refs; }
-  ULONG STDMETHODCALLTYPE Release() override { return --refs; }
-  HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* n) override {
-    *n = 0;
-    return S_OK;
-  }
-  HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
-  HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override { return E_NOTIMPL; }
-  HRESULT STDMETHODCALLTYPE Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS*, VARIANT*, EXCEPINFO*, UINT*) override {
-    calls.push_back(id);
-    return S_OK;
-  }
-  ULONG refs = 1;
-};
-
-class PropertySink final : public IPropertyNotifySink {
- public:
-  std::vector<DISPID> changed;
-  HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** out) override {
-    *out = nullptr;
-    if (iid != IID_IUnknown && iid != IID_IPropertyNotifySink) return E_NOINTERFACE;
-    *out = this;
-    AddRef();
-    return S_OK;
-  }
-  ULONG STDMETHODCALLTYPE AddRef() override { return ++refs; }
-  ULONG STDMETHODCALLTYPE Release() override { return --refs; }
-  HRESULT STDMETHODCALLTYPE OnChanged(DISPID id) override {
-    changed.push_back(id);
-    return S_OK;
-  }
-  HRESULT STDMETHODCALLTYPE OnRequestEdit(DISPID) override { return S_OK; }
-  ULONG refs = 1;
-};
 
 class Events : public OcxTest {
  protected:
@@ -65,8 +20,8 @@ class Events : public OcxTest {
     return cookie;
   }
   // The sinks outlive the control, which the fixture releases first.
-  EventSink sink;
-  PropertySink notifications;
+  RecordingEvents sink;
+  RecordingChanges notifications;
   Ref<IConnectionPoint> point;
 };
 
@@ -75,8 +30,8 @@ TEST_F(Events, TimeTimerTicksThroughTheMessageLoopAndRaisesTimerTime) {
   ASSERT_EQ(Put(L"TimerTimeInterval", I4(20)), S_OK);
   ASSERT_EQ(Put(L"TimerTimeEnabled", Bool(true)), S_OK);
   PumpMessages(300);
-  ASSERT_FALSE(sink.calls.empty());
-  EXPECT_EQ(sink.calls.front(), 2);
+  ASSERT_FALSE(sink.raised.empty());
+  EXPECT_EQ(sink.raised.front(), 2);
   ASSERT_EQ(point->Unadvise(cookie), S_OK);
   EXPECT_EQ(sink.refs, 1u) << "the connection point let go of the sink";
 }
@@ -87,9 +42,9 @@ TEST_F(Events, NoTickArrivesAfterTheControlIsReleased) {
   ASSERT_EQ(Put(L"TimerTimeEnabled", Bool(true)), S_OK);
   point.Reset();
   control.Reset();
-  const size_t before = sink.calls.size();
+  const size_t before = sink.raised.size();
   PumpMessages(150);
-  EXPECT_EQ(sink.calls.size(), before);
+  EXPECT_EQ(sink.raised.size(), before);
   EXPECT_EQ(sink.refs, 1u) << "the control released its sinks when it went";
 }
 

@@ -30,46 +30,6 @@ HRESULT RecordingPageSite::GetPageContainer(IUnknown** container) {
   return E_NOTIMPL;
 }
 
-HRESULT DesignSite::QueryInterface(REFIID iid, void** out) {
-  if (!out) return E_POINTER;
-  *out = nullptr;
-  if (iid == IID_IUnknown || iid == IID_IOleClientSite)
-    *out = static_cast<IOleClientSite*>(this);
-  else if (iid == IID_IDispatch)
-    *out = static_cast<IDispatch*>(this);
-  else
-    return E_NOINTERFACE;
-  return S_OK;
-}
-
-HRESULT DesignSite::GetMoniker(DWORD, DWORD, IMoniker** moniker) {
-  if (moniker) *moniker = nullptr;
-  return E_NOTIMPL;
-}
-
-HRESULT DesignSite::GetContainer(IOleContainer** container) {
-  if (container) *container = nullptr;
-  return E_NOINTERFACE;
-}
-
-HRESULT DesignSite::GetTypeInfoCount(UINT* count) {
-  if (count) *count = 0;
-  return S_OK;
-}
-
-HRESULT DesignSite::GetTypeInfo(UINT, LCID, ITypeInfo** info) {
-  if (info) *info = nullptr;
-  return E_NOTIMPL;
-}
-
-HRESULT DesignSite::Invoke(DISPID dispid, REFIID, LCID, WORD, DISPPARAMS*, VARIANT* result, EXCEPINFO*, UINT*) {
-  if (dispid != DISPID_AMBIENT_USERMODE || !result) return DISP_E_MEMBERNOTFOUND;
-  VariantInit(result);
-  V_VT(result) = VT_BOOL;
-  V_BOOL(result) = VARIANT_FALSE;
-  return S_OK;
-}
-
 bool ScriptedDialogs::Next(const std::string& kind, editors::CommonDialog& dialog) {
   shown.push_back({kind, dialog.Flags, dialog.Color, dialog.FontName});
   if (answers_.empty() || answers_.front().first != kind) {

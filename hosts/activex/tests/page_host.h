@@ -12,6 +12,7 @@
 
 #include "editor_services.h"
 #include "ocx_fixture.h"
+#include "test_sinks.h"
 
 namespace vorlex::activex::test {
 
@@ -26,26 +27,6 @@ class RecordingPageSite final : public IPropertyPageSite {
   HRESULT STDMETHODCALLTYPE TranslateAccelerator(MSG*) override { return S_FALSE; }
 
   std::vector<DWORD> statusChanges;
-};
-
-// A form designer's client site: its ambient UserMode is False, so the
-// control takes design-time settings.
-class DesignSite final : public IOleClientSite, public IDispatch {
- public:
-  HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** out) override;
-  ULONG STDMETHODCALLTYPE AddRef() override { return 2; }
-  ULONG STDMETHODCALLTYPE Release() override { return 1; }
-  HRESULT STDMETHODCALLTYPE SaveObject() override { return S_OK; }
-  HRESULT STDMETHODCALLTYPE GetMoniker(DWORD, DWORD, IMoniker** moniker) override;
-  HRESULT STDMETHODCALLTYPE GetContainer(IOleContainer** container) override;
-  HRESULT STDMETHODCALLTYPE ShowObject() override { return S_OK; }
-  HRESULT STDMETHODCALLTYPE OnShowWindow(BOOL) override { return S_OK; }
-  HRESULT STDMETHODCALLTYPE RequestNewObjectLayout() override { return E_NOTIMPL; }
-  HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) override;
-  HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT, LCID, ITypeInfo** info) override;
-  HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override { return E_NOTIMPL; }
-  HRESULT STDMETHODCALLTYPE Invoke(DISPID dispid, REFIID, LCID, WORD, DISPPARAMS*, VARIANT* result, EXCEPINFO*,
-                                   UINT*) override;
 };
 
 // Answers each dialog from a script: true with the values to choose, or false
@@ -123,7 +104,7 @@ class PageTest : public OcxTest {
   std::wstring StringOf(const wchar_t* name, std::vector<VARIANT> args = {});
 
   HWND host = nullptr;
-  DesignSite designSite;
+  AmbientSite designSite;  // a form designer's: UserMode False
   Ref<IPropertyPage> page;
   RecordingPageSite site;
   ScriptedDialogs dialogs;
