@@ -8,6 +8,7 @@
 #include "picture/win32/ole_picture.h"
 #include "vorlex/AutomationError.h"
 #include "vorlex/Font.h"
+#include "wide_text.h"
 
 namespace vorlex::activex {
 
@@ -100,27 +101,14 @@ Variant FromOtherKind(const VARIANT& value) {
 
 }  // namespace
 
-namespace {
+std::string FromBstr(BSTR text) { return text ? ToUtf8(std::wstring_view(text, SysStringLen(text))) : std::string(); }
 
-std::string Utf8(const wchar_t* text, int length) {
-  if (!text || length <= 0) return {};
-  const int bytes = WideCharToMultiByte(CP_UTF8, 0, text, length, nullptr, 0, nullptr, nullptr);
-  std::string utf8(static_cast<size_t>(bytes), '\0');
-  WideCharToMultiByte(CP_UTF8, 0, text, length, utf8.data(), bytes, nullptr, nullptr);
-  return utf8;
-}
-
-}  // namespace
-
-std::string FromBstr(BSTR text) { return text ? Utf8(text, static_cast<int>(SysStringLen(text))) : std::string(); }
-
-std::string FromWide(const wchar_t* text) { return text ? Utf8(text, lstrlenW(text)) : std::string(); }
+std::string FromWide(const wchar_t* text) { return text ? ToUtf8(text) : std::string(); }
 
 BSTR ToBstr(const std::string& text) {
-  const int length = MultiByteToWideChar(CP_UTF8, 0, text.data(), static_cast<int>(text.size()), nullptr, 0);
-  BSTR result = SysAllocStringLen(nullptr, static_cast<UINT>(length));
+  const std::wstring wide = ToWide(text);
+  BSTR result = SysAllocStringLen(wide.data(), static_cast<UINT>(wide.size()));
   if (!result) throw std::bad_alloc();
-  MultiByteToWideChar(CP_UTF8, 0, text.data(), static_cast<int>(text.size()), result, length);
   return result;
 }
 

@@ -8,21 +8,15 @@
 #include "vorlex/AutomationError.h"
 #include "vorlex/Font.h"
 #include "vorlex/Picture.h"
+#include "wide_text.h"
 
 namespace vorlex::activex {
 
 namespace {
 
-std::wstring Wide(const std::string& utf8) {
-  const int length = MultiByteToWideChar(CP_UTF8, 0, utf8.data(), static_cast<int>(utf8.size()), nullptr, 0);
-  std::wstring text(static_cast<size_t>(length), L'\0');
-  MultiByteToWideChar(CP_UTF8, 0, utf8.data(), static_cast<int>(utf8.size()), text.data(), length);
-  return text;
-}
-
 // A standard font object with the font's members.
 IDispatch* SystemFont(const Font& font) {
-  const std::wstring name = Wide(font.Name());
+  const std::wstring name = ToWide(font.Name());
   FONTDESC description{};
   description.cbSizeofstruct = sizeof description;
   description.lpstrName = const_cast<LPOLESTR>(name.c_str());
@@ -85,7 +79,7 @@ void ContainerBag::WriteProperty(const std::string& name, const Variant& value, 
   VARIANT written;
   VariantInit(&written);
   ToContainerVariant(value, &written);
-  const std::wstring key = Wide(name);
+  const std::wstring key = ToWide(name);
   const HRESULT hr = bag_.Write(key.c_str(), &written);
   VariantClear(&written);
   if (FAILED(hr)) RaiseError(kErrInvalidPropertyValue);
@@ -94,7 +88,7 @@ void ContainerBag::WriteProperty(const std::string& name, const Variant& value, 
 Variant ContainerBag::ReadProperty(const std::string& name, const Variant& defaultValue) {
   VARIANT read;
   VariantInit(&read);
-  const std::wstring key = Wide(name);
+  const std::wstring key = ToWide(name);
   if (FAILED(bag_.Read(key.c_str(), &read, log_)) || V_VT(&read) == VT_EMPTY) {
     VariantClear(&read);
     return defaultValue;

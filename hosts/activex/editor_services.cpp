@@ -2,6 +2,7 @@
 
 #include "system_dialogs.h"
 #include "vorlex/AutomationError.h"
+#include "wide_text.h"
 #include "win32_about_system.h"
 
 namespace vorlex::activex {
@@ -15,18 +16,11 @@ HWND owner = nullptr;
 class MessageBoxErrors final : public ErrorReporter {
  public:
   void ShowError(const std::string& text) override {
-    const std::wstring wide = Wide(text);
+    const std::wstring wide = ToWide(text);
     MessageBoxW(DialogOwner(), wide.c_str(), L"Vorlex", MB_OK | MB_ICONEXCLAMATION);
   }
 
  private:
-  static std::wstring Wide(const std::string& text) {
-    if (text.empty()) return {};
-    const int length = MultiByteToWideChar(CP_UTF8, 0, text.data(), static_cast<int>(text.size()), nullptr, 0);
-    std::wstring wide(static_cast<size_t>(length), L'\0');
-    MultiByteToWideChar(CP_UTF8, 0, text.data(), static_cast<int>(text.size()), wide.data(), length);
-    return wide;
-  }
 };
 }  // namespace
 

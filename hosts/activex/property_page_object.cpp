@@ -8,6 +8,7 @@
 #include "editors/block_page.h"
 #include "editors/boundaries_page.h"
 #include "editors/caption_page.h"
+#include "wide_text.h"
 
 namespace vorlex::activex {
 
@@ -39,11 +40,11 @@ std::unique_ptr<editors::PropertyPage> NewLogic(PageKind kind, editors::PageView
 }
 
 LPOLESTR TaskMemText(std::string_view text) {
-  const int length = MultiByteToWideChar(CP_UTF8, 0, text.data(), static_cast<int>(text.size()), nullptr, 0);
-  auto* copy = static_cast<LPOLESTR>(CoTaskMemAlloc((static_cast<size_t>(length) + 1) * sizeof(OLECHAR)));
+  const std::wstring wide = ToWide(text);
+  auto* copy = static_cast<LPOLESTR>(CoTaskMemAlloc((wide.size() + 1) * sizeof(OLECHAR)));
   if (!copy) return nullptr;
-  MultiByteToWideChar(CP_UTF8, 0, text.data(), static_cast<int>(text.size()), copy, length);
-  copy[length] = 0;
+  std::copy(wide.begin(), wide.end(), copy);
+  copy[wide.size()] = 0;
   return copy;
 }
 

@@ -9,18 +9,11 @@
 
 #include "com_variant.h"
 #include "editor_services.h"
+#include "wide_text.h"
 
 namespace vorlex::activex {
 
 namespace {
-
-std::wstring Wide(const std::string& text) {
-  if (text.empty()) return {};
-  const int length = MultiByteToWideChar(CP_UTF8, 0, text.data(), static_cast<int>(text.size()), nullptr, 0);
-  std::wstring wide(static_cast<size_t>(length), L'\0');
-  MultiByteToWideChar(CP_UTF8, 0, text.data(), static_cast<int>(text.size()), wide.data(), length);
-  return wide;
-}
 
 // Font sizes in points and the LOGFONT height of the screen.
 int PointsToHeight(float points) {
@@ -33,7 +26,7 @@ int PointsToHeight(float points) {
 }  // namespace
 
 std::wstring DialogFilter(const std::string& filter) {
-  std::wstring result = Wide(filter);
+  std::wstring result = ToWide(filter);
   for (wchar_t& c : result)
     if (c == L'|') c = L'\0';
   result.push_back(L'\0');
@@ -56,7 +49,7 @@ bool SystemDialogs::ChooseColor(editors::CommonDialog& dialog) {
 
 bool SystemDialogs::ChooseFont(editors::CommonDialog& dialog) {
   LOGFONTW font{};
-  const std::wstring name = Wide(dialog.FontName);
+  const std::wstring name = ToWide(dialog.FontName);
   lstrcpynW(font.lfFaceName, name.c_str(), LF_FACESIZE);
   font.lfHeight = PointsToHeight(dialog.FontSize > 0 ? dialog.FontSize : 8.25f);
   font.lfWeight = dialog.FontBold ? FW_BOLD : FW_NORMAL;
@@ -85,7 +78,7 @@ bool SystemDialogs::ChooseFont(editors::CommonDialog& dialog) {
 
 bool SystemDialogs::ChooseOpenFile(editors::CommonDialog& dialog) {
   const std::wstring filter = DialogFilter(dialog.Filter);
-  std::wstring file = Wide(dialog.FileName);
+  std::wstring file = ToWide(dialog.FileName);
   file.resize(MAX_PATH * 4, L'\0');
   OPENFILENAMEW open{};
   open.lStructSize = sizeof open;

@@ -6,35 +6,20 @@
 #include <algorithm>
 #include <utility>
 
+#include "wide_text.h"
+
 namespace vorlex::activex {
 
 namespace {
 
 constexpr wchar_t kPreviewBoxClass[] = L"VorlexPreviewBox";
 
-std::wstring Wide(const std::string& text) {
-  if (text.empty()) return {};
-  const int length = MultiByteToWideChar(CP_UTF8, 0, text.data(), static_cast<int>(text.size()), nullptr, 0);
-  std::wstring wide(static_cast<size_t>(length), L'\0');
-  MultiByteToWideChar(CP_UTF8, 0, text.data(), static_cast<int>(text.size()), wide.data(), length);
-  return wide;
-}
-
-std::string Utf8(const std::wstring& text) {
-  if (text.empty()) return {};
-  const int length =
-      WideCharToMultiByte(CP_UTF8, 0, text.data(), static_cast<int>(text.size()), nullptr, 0, nullptr, nullptr);
-  std::string utf8(static_cast<size_t>(length), '\0');
-  WideCharToMultiByte(CP_UTF8, 0, text.data(), static_cast<int>(text.size()), utf8.data(), length, nullptr, nullptr);
-  return utf8;
-}
-
 std::string WindowText(HWND window) {
   const int length = GetWindowTextLengthW(window);
   std::wstring text(static_cast<size_t>(length) + 1, L'\0');
   const int copied = GetWindowTextW(window, text.data(), length + 1);
   text.resize(static_cast<size_t>(std::max(0, copied)));
-  return Utf8(text);
+  return ToUtf8(text);
 }
 
 COLORREF Translate(OLE_COLOR color) {
@@ -160,7 +145,7 @@ void Win32PageView::Attach(HWND dialog) {
     SendMessageW(window, TCM_DELETEALLITEMS, 0, 0);
     int index = 0;
     for (std::string_view caption : tab.captions) {
-      std::wstring text = Wide(std::string(caption));
+      std::wstring text = ToWide(std::string(caption));
       TCITEMW item{};
       item.mask = TCIF_TEXT;
       item.pszText = text.data();
@@ -204,10 +189,10 @@ void Win32PageView::Apply(std::string_view name, const State& state) {
   if (state.items) {
     SendMessageW(window, CB_RESETCONTENT, 0, 0);
     for (const std::string& item : *state.items)
-      SendMessageW(window, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(Wide(item).c_str()));
+      SendMessageW(window, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(ToWide(item).c_str()));
   }
   if (state.listIndex) SendMessageW(window, CB_SETCURSEL, static_cast<WPARAM>(*state.listIndex), 0);
-  if (state.text) SetWindowTextW(window, Wide(*state.text).c_str());
+  if (state.text) SetWindowTextW(window, ToWide(*state.text).c_str());
   if (state.checked) SendMessageW(window, BM_SETCHECK, *state.checked ? BST_CHECKED : BST_UNCHECKED, 0);
   if (state.range) {
     SCROLLINFO info{sizeof info, SIF_RANGE, state.range->first, std::max(state.range->first, state.range->second), 0,
@@ -411,7 +396,7 @@ std::string Win32PageView::Text(std::string_view control) const {
 void Win32PageView::SetText(std::string_view control, const std::string& text) {
   StateOf(control).text = text;
   const Setting setting(*this);
-  if (HWND window = Item(control)) SetWindowTextW(window, Wide(text).c_str());
+  if (HWND window = Item(control)) SetWindowTextW(window, ToWide(text).c_str());
 }
 
 int Win32PageView::Caret(std::string_view control) const {
@@ -442,7 +427,7 @@ void Win32PageView::SetListItems(std::string_view control, const std::vector<std
   if (HWND window = Item(control)) {
     SendMessageW(window, CB_RESETCONTENT, 0, 0);
     for (const std::string& item : items)
-      SendMessageW(window, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(Wide(item).c_str()));
+      SendMessageW(window, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(ToWide(item).c_str()));
   }
 }
 
