@@ -34,7 +34,7 @@ QString Title(std::string_view caption) {
 }  // namespace
 
 PageDialog::PageDialog(PageKind kind, VorlexWidget& widget, QWidget* parent, editors::DialogService* dialogs)
-    : QDialog(parent), object_(std::make_unique<editors::AutomationControlObject>(widget.control())) {
+    : QDialog(parent), widget_(&widget), object_(std::make_unique<editors::AutomationControlObject>(widget.control())) {
   if (!dialogs) {
     ownDialogs_ = std::make_unique<QtDialogs>(this);
     dialogs = ownDialogs_.get();
@@ -74,11 +74,19 @@ PageDialog::PageDialog(PageKind kind, VorlexWidget& widget, QWidget* parent, edi
   view_.SetChangedListener([this](bool changed) { apply_->setEnabled(changed); });
   view_.SetRoute([this](const std::string& control) { Route(control); });
   page_->SetSelectedControls({object_.get()});
+  AtDesignTime([this] { page_->SelectionChanged(); });
+}
+
+template <class Step>
+void PageDialog::AtDesignTime(Step step) {
+  const bool userMode = widget_ && widget_->userMode();
+  if (widget_) widget_->setUserMode(false);
   try {
-    page_->SelectionChanged();
+    step();
   } catch (const std::exception& e) {
     Report(e);
   }
+  if (widget_) widget_->setUserMode(userMode);
 }
 
 PageDialog::~PageDialog() {
@@ -88,28 +96,26 @@ PageDialog::~PageDialog() {
 }
 
 void PageDialog::Route(const std::string& control) {
-  try {
-    page_->ControlEvent(control);
-  } catch (const std::exception& e) {
-    Report(e);
-  }
+  AtDesignTime([&] { page_->ControlEvent(control); });
 }
 
 void PageDialog::Apply() {
   if (!page_->Changed()) return;
-  try {
+  AtDesignTime([this] {
     page_->ApplyChanges();
     page_->SetChanged(false);
-  } catch (const std::exception& e) {
-    Report(e);
-  }
+  });
 }
 
 void PageDialog::Report(const std::exception& error) {
   const auto* automation = dynamic_cast<const AutomationError*>(&error);
   const QString text = automation ? QStringLiteral("Error %1: %2").arg(automation->Number()).arg(error.what())
                                   : QString::fromUtf8(error.what());
-  QMessageBox::warning(this, windowTitle(), text);
+  if (reporter_) {
+    reporter_(text);
+  } else {
+    QMessageBox::warning(this, windowTitle(), text);
+  }
 }
 
 }  // namespace vorlex::qt

@@ -4,7 +4,9 @@
 // by the page's changed flag.
 
 #include <QDialog>
+#include <QPointer>
 #include <QPushButton>
+#include <functional>
 #include <memory>
 
 #include "editors/control_object.h"
@@ -28,16 +30,25 @@ class PageDialog final : public QDialog {
   QPushButton* ApplyButton() const { return apply_; }
   // Writes the page to the control and clears the changed flag.
   void Apply();
+  // Where the automation errors of the page's handlers go: a message box
+  // unless replaced.
+  void SetErrorReporter(std::function<void(const QString&)> reporter) { reporter_ = std::move(reporter); }
 
  private:
+  // Runs a step of the page with the control at design time, as a page
+  // always finds it (DontRefreshAfterPropertyPage is design-time only).
+  template <class Step>
+  void AtDesignTime(Step step);
   void Route(const std::string& control);
   void Report(const std::exception& error);
 
+  QPointer<VorlexWidget> widget_;
   QtPageView view_;
   std::unique_ptr<editors::DialogService> ownDialogs_;
   std::unique_ptr<editors::ControlObject> object_;
   std::unique_ptr<editors::PropertyPage> page_;
   QPushButton* apply_ = nullptr;
+  std::function<void(const QString&)> reporter_;
 };
 
 // The page layouts: each builds its widgets into the container and registers
