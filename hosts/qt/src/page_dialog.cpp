@@ -56,6 +56,8 @@ PageDialog::PageDialog(PageKind kind, VorlexWidget& widget, QWidget* parent, edi
   // The page's constructor fills the lists, so the widgets come first.
   page_ = MakePage(kind, view_, *dialogs);
   setWindowTitle(Title(page_->Caption()));
+  // The small pages get room for their lists' longest items.
+  if (kind != PageKind::Block) setMinimumWidth(360);
 
   auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel | QDialogButtonBox::Apply, this);
   buttons->button(QDialogButtonBox::Ok)->setObjectName(QStringLiteral("OK"));

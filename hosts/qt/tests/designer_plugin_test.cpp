@@ -5,6 +5,7 @@
 #include <QFileInfo>
 #include <QPluginLoader>
 #include <QUiLoader>
+#include <QtDesigner/QExtensionManager>
 #include <QtDesigner/QFormBuilder>
 #include <QtTest>
 #include <QtUiPlugin/QDesignerCustomWidgetInterface>
@@ -12,6 +13,7 @@
 #include "test_forms.h"
 #include "ui_bar_form.h"
 #include "vorlex/qt/VorlexWidget.h"
+#include "vorlex_task_menu.h"
 
 using vorlex::qt::VorlexWidget;
 using namespace vorlex::qt::testing;
@@ -125,6 +127,27 @@ class DesignerPluginTest : public QObject {
     };
     QVERIFY(blockLines(bar->formText()).size() > 20);
     QCOMPARE(blockLines(restored->formText()), blockLines(bar->formText()));
+  }
+
+  void taskMenuOffersThePagesAndTheAboutBox() {
+    VorlexWidget widget;
+    vorlex::qt::VorlexTaskMenu menu(&widget, nullptr);
+    QStringList texts;
+    for (const QAction* action : menu.taskActions()) texts << action->text();
+    QCOMPARE(texts, (QStringList{QStringLiteral("Edit Blocks..."), QStringLiteral("Edit Caption..."),
+                                 QStringLiteral("Edit Boundaries..."), QStringLiteral("About Vorlex...")}));
+    QCOMPARE(menu.preferredEditAction()->text(), QStringLiteral("Edit Blocks..."));
+  }
+
+  void taskMenuFactoryServesOnlyVorlexWidgets() {
+    QExtensionManager manager;
+    vorlex::qt::VorlexTaskMenuFactory factory(&manager);
+    manager.registerExtensions(&factory, Q_TYPEID(QDesignerTaskMenuExtension));
+    VorlexWidget bar;
+    QWidget other;
+    QVERIFY(qt_extension<QDesignerTaskMenuExtension*>(&manager, &bar));
+    QVERIFY(!qt_extension<QDesignerTaskMenuExtension*>(&manager, &other));
+    manager.unregisterExtensions(&factory, Q_TYPEID(QDesignerTaskMenuExtension));
   }
 
   void uicCompiledFormRestoresTheBlocks() {
