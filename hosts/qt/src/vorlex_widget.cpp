@@ -187,16 +187,24 @@ QString VorlexWidget::formText() const {
   }
 }
 
+// A form saved in another session may name files that are gone (pictures,
+// a resource file of texts): the lines naming them are left out, with a
+// warning, so that the rest of the control still loads.
 void VorlexWidget::setFormText(const QString& text) {
   if (text.trimmed().isEmpty()) return;
   if (!d->formFiles) d->formFiles = std::make_unique<QTemporaryDir>();
   const std::string anchor = d->formFiles->filePath(QStringLiteral("form.frm")).toStdString();
-  try {
-    std::vector<FormControl> forms = ReadFormText(text.toStdString(), anchor);
-    if (forms.empty()) return;
-    ApplyForm(d->control, forms.front(), anchor);
-  } catch (const FormError& e) {
-    qWarning("Vorlex: %s", e.what());
+  QStringList lines = text.split(QLatin1Char('\n'));
+  while (true) {
+    try {
+      std::vector<FormControl> forms = ReadFormText(lines.join(QLatin1Char('\n')).toStdString(), anchor);
+      if (!forms.empty()) ApplyForm(d->control, forms.front(), anchor);
+      break;
+    } catch (const FormError& e) {
+      qWarning("Vorlex: %s", e.what());
+      if (e.Line() <= 0 || e.Line() > lines.size()) break;
+      lines.removeAt(e.Line() - 1);
+    }
   }
   update();
 }

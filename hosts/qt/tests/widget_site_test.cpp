@@ -180,6 +180,38 @@ class WidgetSiteTest : public QObject {
     QVERIFY(error.contains(QStringLiteral("missing.frm")));
   }
 
+  void formTextLeavesOutLinesNamingFilesThatAreGone() {
+    VorlexWidget widget;
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("picture file not found")));
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("gone\\.frx")));
+    widget.setFormText(
+        QStringLiteral("VERSION 5.00\r\nBegin VorlexLib.Vorlex V\r\n   Blocks          =   2\r\n"
+                       "   Block.Picture(1)=   \"gone.bmp\"\r\n   Block.Text(1)   =   \"kept\"\r\n"
+                       "   Block.Text(2)   =   \"gone.frx\":0000\r\n   Caption         =   \"here\"\r\n"
+                       "End\r\n"));
+    QCOMPARE(widget.blocks(), 2);
+    QCOMPARE(widget.blockText(1), QStringLiteral("kept"));
+    QVERIFY(!widget.blockHasPicture(1));
+    QCOMPARE(widget.caption(), QStringLiteral("here"));
+  }
+
+  void formTextKeepsTheWidgetsPicturesWhileItLives() {
+    VorlexWidget widget;
+    widget.addBlock();
+    QTemporaryDir folder;
+    QImage image(8, 8, QImage::Format_RGB32);
+    image.fill(Qt::red);
+    const QString bmp = folder.filePath(QStringLiteral("red.bmp"));
+    QVERIFY(image.save(bmp));
+    widget.setBlockPicture(bmp, 1);
+    const QString text = widget.formText();
+    QVERIFY(QFile::remove(bmp));
+    widget.setBlockPicture(QString(), 1);
+    QVERIFY(!widget.blockHasPicture(1));
+    widget.setFormText(text);
+    QVERIFY(widget.blockHasPicture(1));
+  }
+
   void enumPropertiesCarryTheLibrarysNames() {
     VorlexWidget widget;
     QCOMPARE(widget.borderStyle(), VorlexWidget::vxInset);
