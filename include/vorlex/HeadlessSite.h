@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "vorlex/ControlSite.h"
+#include "vorlex/MemoryWindow.h"
 #include "vorlex/TimerService.h"
 
 namespace vorlex {
@@ -36,16 +37,6 @@ class ManualTimers : public TimerService {
   };
   std::map<uintptr_t, Timer> timers_;
   uint64_t now_ = 0;
-};
-
-// The pixels of the memory window, top row first, each 0x00RRGGBB.
-struct WindowImage {
-  int width = 0;
-  int height = 0;
-  std::vector<uint32_t> pixels;
-  uint32_t At(int x, int y) const {
-    return pixels[static_cast<size_t>(y) * static_cast<size_t>(width) + static_cast<size_t>(x)];
-  }
 };
 
 class HeadlessSite : public ControlSite, public VorlexEvents {
@@ -81,8 +72,8 @@ class HeadlessSite : public ControlSite, public VorlexEvents {
   bool SaveWindowPng(const std::string& path, std::string* error) const;
 
   // ControlSite
-  double ScaleWidth() const override { return width_; }
-  double ScaleHeight() const override { return height_; }
+  double ScaleWidth() const override { return window_.Width(); }
+  double ScaleHeight() const override { return window_.Height(); }
   int32_t OuterWidthTwips() const override;
   int32_t OuterHeightTwips() const override;
   void SetOuterWidthTwips(int32_t twips) override;
@@ -91,8 +82,8 @@ class HeadlessSite : public ControlSite, public VorlexEvents {
   float TwipsPerPixelY() const override { return twipsY_; }
   bool AmbientUserMode() const override { return userMode_; }
   FontPtr AmbientFont() const override { return ambientFont_; }
-  uintptr_t hWnd() const override { return hwnd_; }
-  uintptr_t hDC() const override { return windowDC_; }
+  uintptr_t hWnd() const override { return window_.hWnd(); }
+  uintptr_t hDC() const override { return window_.hDC(); }
   OLE_COLOR BackColor() const override { return backColor_; }
   void SetBackColor(OLE_COLOR color) override { backColor_ = color; }
   OLE_COLOR ForeColor() const override { return foreColor_; }
@@ -118,13 +109,10 @@ class HeadlessSite : public ControlSite, public VorlexEvents {
   void TimerDisk() override;
 
  private:
-  int width_;
-  int height_;
   float twipsX_ = 15.0f;
   float twipsY_ = 15.0f;
   bool userMode_ = true;
   FontPtr ambientFont_;
-  uintptr_t hwnd_;
   OLE_COLOR backColor_ = 0x8000000F;  // the container's button-face default
   OLE_COLOR foreColor_ = 0x80000012;  // button text
   VARIANT_BOOL enabled_ = VARIANT_TRUE;
@@ -138,13 +126,8 @@ class HeadlessSite : public ControlSite, public VorlexEvents {
   std::unique_ptr<DiskService> disks_;
   std::unique_ptr<ClockService> clock_;
   std::function<void()> resized_;
-  // The memory window: a context of the screen's format holding a bitmap of the client size.
-  void CreateWindowBitmap();
   void ResizeWindow(int widthPixels, int heightPixels);
-  uintptr_t screenDC_ = 0;
-  uintptr_t windowDC_ = 0;
-  uintptr_t windowBitmap_ = 0;
-  uintptr_t previousBitmap_ = 0;
+  MemoryWindow window_;
 };
 
 }  // namespace vorlex

@@ -1,7 +1,6 @@
 #include "widget_site.h"
 
 #include <QPalette>
-#include <atomic>
 
 #include "platform/gdi.h"
 #include "qt_convert.h"
@@ -12,64 +11,30 @@
 namespace vorlex::qt {
 
 namespace {
-uintptr_t NextWindowHandle() {
-  static std::atomic<uintptr_t> next{0x20010};
-  return next += 4;
-}
 constexpr double kTwipsPerInch = 1440.0;
 }  // namespace
 
 WidgetSite::WidgetSite(VorlexWidget& widget)
     : widget_(widget),
-      hwnd_(NextWindowHandle()),
       font_(ToVorlexFont(widget.font())),
       disks_(SystemDisks()),
       clock_(SystemClock()),
-      width_(widget.width()),
-      height_(widget.height()) {
-  screenDC_ = reinterpret_cast<uintptr_t>(gdi::GetDC(nullptr));
-  windowDC_ = reinterpret_cast<uintptr_t>(gdi::CreateCompatibleDC(reinterpret_cast<gdi::HDC>(screenDC_)));
-  CreateWindowBitmap();
-}
+      window_(widget.width(), widget.height()) {}
 
-WidgetSite::~WidgetSite() {
-  auto dc = reinterpret_cast<gdi::HDC>(windowDC_);
-  if (previousBitmap_) gdi::SelectObject(dc, reinterpret_cast<gdi::HGDIOBJ>(previousBitmap_));
-  if (windowBitmap_) gdi::DeleteObject(reinterpret_cast<gdi::HGDIOBJ>(windowBitmap_));
-  if (dc) gdi::DeleteDC(dc);
-  if (screenDC_) gdi::ReleaseDC(nullptr, reinterpret_cast<gdi::HDC>(screenDC_));
-}
+WidgetSite::~WidgetSite() = default;
 
 // A new window bitmap is black until the control's next paint covers it.
-void WidgetSite::CreateWindowBitmap() {
-  auto dc = reinterpret_cast<gdi::HDC>(windowDC_);
-  auto bitmap = gdi::CreateCompatibleBitmap(reinterpret_cast<gdi::HDC>(screenDC_), width_, height_);
-  auto previous = gdi::SelectObject(dc, bitmap);
-  if (!previousBitmap_) {
-    previousBitmap_ = reinterpret_cast<uintptr_t>(previous);
-  } else if (previous) {
-    gdi::DeleteObject(previous);
-  }
-  windowBitmap_ = reinterpret_cast<uintptr_t>(bitmap);
-}
-
 void WidgetSite::SyncSize() {
-  if (widget_.width() == width_ && widget_.height() == height_) return;
-  width_ = widget_.width();
-  height_ = widget_.height();
-  CreateWindowBitmap();
-  if (resized_) resized_();
+  if (window_.Resize(widget_.width(), widget_.height()) && resized_) resized_();
 }
 
 QImage WidgetSite::WindowImage() const {
-  gdi::Pixels pixels;
-  if (!gdi::ReadPixels(reinterpret_cast<gdi::HDC>(windowDC_), pixels) || pixels.width <= 0 || pixels.height <= 0)
-    return {};
+  const vorlex::WindowImage pixels = window_.Snapshot();
+  if (pixels.width <= 0 || pixels.height <= 0) return {};
   QImage image(pixels.width, pixels.height, QImage::Format_RGB32);
   for (int y = 0; y < pixels.height; ++y) {
     auto* row = reinterpret_cast<QRgb*>(image.scanLine(y));
-    const uint32_t* source = pixels.argb.data() + static_cast<size_t>(y) * static_cast<size_t>(pixels.width);
-    for (int x = 0; x < pixels.width; ++x) row[x] = 0xFF000000u | source[x];
+    for (int x = 0; x < pixels.width; ++x) row[x] = 0xFF000000u | pixels.At(x, y);
   }
   return image;
 }

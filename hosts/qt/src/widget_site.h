@@ -10,6 +10,7 @@
 
 #include "qt_timers.h"
 #include "vorlex/ControlSite.h"
+#include "vorlex/MemoryWindow.h"
 
 namespace vorlex::qt {
 
@@ -47,8 +48,8 @@ class WidgetSite final : public ControlSite, public VorlexEvents {
   float TwipsPerPixelY() const override;
   bool AmbientUserMode() const override { return userMode_; }
   FontPtr AmbientFont() const override;
-  uintptr_t hWnd() const override { return hwnd_; }
-  uintptr_t hDC() const override { return windowDC_; }
+  uintptr_t hWnd() const override { return window_.hWnd(); }
+  uintptr_t hDC() const override { return window_.hDC(); }
   OLE_COLOR BackColor() const override { return backColor_; }
   void SetBackColor(OLE_COLOR color) override;
   OLE_COLOR ForeColor() const override { return foreColor_; }
@@ -77,11 +78,8 @@ class WidgetSite final : public ControlSite, public VorlexEvents {
   void AdoptWidgetFont(FontPtr font) { font_ = std::move(font); }
 
  private:
-  void CreateWindowBitmap();
-
   VorlexWidget& widget_;
   bool userMode_ = true;
-  uintptr_t hwnd_;
   OLE_COLOR backColor_ = 0x8000000F;
   OLE_COLOR foreColor_ = 0x80000012;
   FontPtr font_;
@@ -89,12 +87,7 @@ class WidgetSite final : public ControlSite, public VorlexEvents {
   std::unique_ptr<DiskService> disks_;
   std::unique_ptr<ClockService> clock_;
   std::function<void()> resized_;
-  int width_ = 0;
-  int height_ = 0;
-  uintptr_t screenDC_ = 0;
-  uintptr_t windowDC_ = 0;
-  uintptr_t windowBitmap_ = 0;
-  uintptr_t previousBitmap_ = 0;
+  MemoryWindow window_;
 };
 
 }  // namespace vorlex::qt
