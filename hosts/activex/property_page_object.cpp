@@ -5,9 +5,6 @@
 #include <string>
 #include <utility>
 
-#include "editors/block_page.h"
-#include "editors/boundaries_page.h"
-#include "editors/caption_page.h"
 #include "wide_text.h"
 
 namespace vorlex::activex {
@@ -24,19 +21,6 @@ const PageLayout& LayoutOf(PageKind kind) {
       break;
   }
   return BoundariesPageLayout();
-}
-
-std::unique_ptr<editors::PropertyPage> NewLogic(PageKind kind, editors::PageView& view,
-                                                editors::DialogService& dialogs) {
-  switch (kind) {
-    case PageKind::Block:
-      return std::make_unique<editors::BlockPage>(view, dialogs);
-    case PageKind::Caption:
-      return std::make_unique<editors::CaptionPage>(view, dialogs);
-    case PageKind::Boundaries:
-      break;
-  }
-  return std::make_unique<editors::BoundariesPage>(view, dialogs);
 }
 
 LPOLESTR TaskMemText(std::string_view text) {
@@ -97,7 +81,7 @@ HRESULT PropertyPageObject::Create(PageKind kind, IUnknown* outer, REFIID iid, v
 PropertyPageObject::PropertyPageObject(PageKind kind) : kind_(kind), view_(LayoutOf(kind)) {
   view_.onControlEvent = [this](std::string_view control) { Guarded([&] { logic_->ControlEvent(control); }); };
   view_.onPageChanged = [this](bool changed) { Changed(changed); };
-  logic_ = NewLogic(kind, view_, dialogs_);
+  logic_ = editors::MakePropertyPage(kind, view_, dialogs_);
 }
 
 PropertyPageObject::~PropertyPageObject() {

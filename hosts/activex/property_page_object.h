@@ -10,6 +10,7 @@
 #include "com_includes.h"
 #include "dispatch_control_object.h"
 #include "editor_services.h"
+#include "editors/page_factory.h"
 #include "editors/property_page.h"
 #include "guid_text.h"
 #include "identities.h"
@@ -18,7 +19,7 @@
 
 namespace vorlex::activex {
 
-enum class PageKind { Block, Caption, Boundaries };
+using editors::PageKind;
 
 inline constexpr PageKind kPageKinds[] = {PageKind::Block, PageKind::Caption, PageKind::Boundaries};
 

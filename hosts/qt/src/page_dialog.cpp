@@ -4,9 +4,6 @@
 #include <QMessageBox>
 #include <QVBoxLayout>
 
-#include "editors/block_page.h"
-#include "editors/boundaries_page.h"
-#include "editors/caption_page.h"
 #include "qt_dialogs.h"
 #include "vorlex/AutomationError.h"
 #include "vorlex/qt/VorlexWidget.h"
@@ -14,18 +11,6 @@
 namespace vorlex::qt {
 
 namespace {
-std::unique_ptr<editors::PropertyPage> MakePage(PageKind kind, QtPageView& view, editors::DialogService& dialogs) {
-  switch (kind) {
-    case PageKind::Block:
-      return std::make_unique<editors::BlockPage>(view, dialogs);
-    case PageKind::Caption:
-      return std::make_unique<editors::CaptionPage>(view, dialogs);
-    case PageKind::Boundaries:
-      break;
-  }
-  return std::make_unique<editors::BoundariesPage>(view, dialogs);
-}
-
 QString Title(std::string_view caption) {
   QString title = QString::fromUtf8(caption.data(), static_cast<qsizetype>(caption.size()));
   title.remove(QLatin1Char('&'));
@@ -54,7 +39,7 @@ PageDialog::PageDialog(PageKind kind, VorlexWidget& widget, QWidget* parent, edi
       break;
   }
   // The page's constructor fills the lists, so the widgets come first.
-  page_ = MakePage(kind, view_, *dialogs);
+  page_ = editors::MakePropertyPage(kind, view_, *dialogs);
   setWindowTitle(Title(page_->Caption()));
   // The small pages get room for their lists' longest items.
   if (kind != PageKind::Block) setMinimumWidth(360);

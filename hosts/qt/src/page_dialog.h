@@ -10,6 +10,7 @@
 #include <memory>
 
 #include "editors/control_object.h"
+#include "editors/page_factory.h"
 #include "editors/property_page.h"
 #include "qt_page_view.h"
 
@@ -17,7 +18,7 @@ namespace vorlex::qt {
 
 class VorlexWidget;
 
-enum class PageKind { Block, Caption, Boundaries };
+using editors::PageKind;
 
 class PageDialog final : public QDialog {
  public:
