@@ -1,5 +1,6 @@
 // The widget: painting, resizing, mouse input, pass-through changes, forms.
 
+#include <QDir>
 #include <QEvent>
 #include <QFile>
 #include <QMouseEvent>
@@ -173,28 +174,66 @@ bool VorlexWidget::saveForm(const QString& path, QString* error) const {
   return true;
 }
 
-// Files the text refers to live in a folder of the widget's own, so that the
-// text read back in the same session finds them.
+namespace {
+// The files a form's text refers to (pictures, the resource file of texts)
+// travel inside the text as comment lines after it, "' file NAME DATA" with
+// both in base64, so that a form saved in one session loads in another.
+constexpr char kEmbeddedFile[] = "' file ";
+
+QString EmbeddedFiles(const QDir& folder) {
+  QString lines;
+  for (const QString& name : folder.entryList(QDir::Files, QDir::Name)) {
+    QFile file(folder.filePath(name));
+    if (!file.open(QIODevice::ReadOnly)) continue;
+    lines += QLatin1String(kEmbeddedFile) + QString::fromLatin1(name.toUtf8().toBase64()) + QLatin1Char(' ') +
+             QString::fromLatin1(file.readAll().toBase64()) + QStringLiteral("\r\n");
+  }
+  return lines;
+}
+
+// Writes the embedded files into the folder; a name that is not a plain file
+// name is left out.
+void ExtractEmbeddedFiles(const QStringList& lines, const QDir& folder) {
+  for (const QString& line : lines) {
+    if (!line.startsWith(QLatin1String(kEmbeddedFile))) continue;
+    const QStringList parts =
+        line.mid(static_cast<qsizetype>(sizeof kEmbeddedFile) - 1).trimmed().split(QLatin1Char(' '));
+    if (parts.size() != 2) continue;
+    const QString name = QString::fromUtf8(QByteArray::fromBase64(parts[0].toLatin1()));
+    if (name.isEmpty() || name.contains(QLatin1Char('/')) || name.contains(QLatin1Char('\\')) ||
+        name.startsWith(QLatin1Char('.')))
+      continue;
+    QFile file(folder.filePath(name));
+    if (file.open(QIODevice::WriteOnly)) file.write(QByteArray::fromBase64(parts[1].toLatin1()));
+  }
+}
+}  // namespace
+
 QString VorlexWidget::formText() const {
   if (!d->formFiles) d->formFiles = std::make_unique<QTemporaryDir>();
+  QDir folder(d->formFiles->path());
+  for (const QString& name : folder.entryList(QDir::Files)) folder.remove(name);
   const QString name = objectName().isEmpty() ? QStringLiteral("Vorlex1") : objectName();
   try {
-    return QString::fromStdString(
-        SaveFormText(d->control, name.toStdString(), d->formFiles->filePath(QStringLiteral("form.frm")).toStdString()));
+    const std::string text =
+        SaveFormText(d->control, name.toStdString(), folder.filePath(QStringLiteral("form.frm")).toStdString());
+    return QString::fromStdString(text) + EmbeddedFiles(folder);
   } catch (const FormError& e) {
     qWarning("Vorlex: %s", e.what());
     return {};
   }
 }
 
-// A form saved in another session may name files that are gone (pictures,
-// a resource file of texts): the lines naming them are left out, with a
-// warning, so that the rest of the control still loads.
+// The embedded files come back into the widget's own folder first. A form
+// whose files are gone all the same (written by hand, say) loads without the
+// lines naming them, with a warning, so that the rest of the control still
+// loads.
 void VorlexWidget::setFormText(const QString& text) {
   if (text.trimmed().isEmpty()) return;
   if (!d->formFiles) d->formFiles = std::make_unique<QTemporaryDir>();
   const std::string anchor = d->formFiles->filePath(QStringLiteral("form.frm")).toStdString();
   QStringList lines = text.split(QLatin1Char('\n'));
+  ExtractEmbeddedFiles(lines, QDir(d->formFiles->path()));
   while (true) {
     try {
       std::vector<FormControl> forms = ReadFormText(lines.join(QLatin1Char('\n')).toStdString(), anchor);

@@ -195,21 +195,41 @@ class WidgetSiteTest : public QObject {
     QCOMPARE(widget.caption(), QStringLiteral("here"));
   }
 
-  void formTextKeepsTheWidgetsPicturesWhileItLives() {
+  void formTextCarriesPicturesAndTextsToAnotherWidget() {
+    QString text;
+    {
+      VorlexWidget widget;
+      widget.addBlock();
+      widget.addBlock();
+      QTemporaryDir folder;
+      QImage image(8, 5, QImage::Format_RGB32);
+      image.fill(Qt::red);
+      const QString bmp = folder.filePath(QStringLiteral("red.bmp"));
+      QVERIFY(image.save(bmp));
+      widget.setBlockPicture(bmp, 1);
+      widget.setBlockText(QStringLiteral("two\r\nlines"), 2);
+      text = widget.formText();
+    }  // the first widget's folder and the picture file are gone
+    QVERIFY(text.contains(QStringLiteral("' file ")));
+    VorlexWidget other;
+    other.setFormText(text);
+    QCOMPARE(other.blocks(), 2);
+    QVERIFY(other.blockHasPicture(1));
+    const vorlex::PicturePtr picture = other.control().get_BlockPicture(vorlex::Variant(static_cast<int16_t>(1)));
+    QVERIFY(picture);
+    QCOMPARE(picture->PixelWidth(), 8);
+    QCOMPARE(picture->PixelHeight(), 5);
+    QCOMPARE(other.blockText(2), QStringLiteral("two\r\nlines"));
+  }
+
+  void embeddedFileNamesCannotLeaveTheFolder() {
     VorlexWidget widget;
-    widget.addBlock();
-    QTemporaryDir folder;
-    QImage image(8, 8, QImage::Format_RGB32);
-    image.fill(Qt::red);
-    const QString bmp = folder.filePath(QStringLiteral("red.bmp"));
-    QVERIFY(image.save(bmp));
-    widget.setBlockPicture(bmp, 1);
-    const QString text = widget.formText();
-    QVERIFY(QFile::remove(bmp));
-    widget.setBlockPicture(QString(), 1);
-    QVERIFY(!widget.blockHasPicture(1));
-    widget.setFormText(text);
-    QVERIFY(widget.blockHasPicture(1));
+    const QString escape = QString::fromLatin1(QByteArray("../escaped.bmp").toBase64());
+    widget.setFormText(QStringLiteral("VERSION 5.00\r\nBegin VorlexLib.Vorlex V\r\n   Caption = \"safe\"\r\nEnd\r\n"
+                                      "' file ") +
+                       escape + QStringLiteral(" AAAA\r\n"));
+    QCOMPARE(widget.caption(), QStringLiteral("safe"));
+    QVERIFY(!QFile::exists(QDir::temp().filePath(QStringLiteral("escaped.bmp"))));
   }
 
   void enumPropertiesCarryTheLibrarysNames() {
