@@ -15,18 +15,20 @@ HMODULE Server() {
   return module;
 }
 
-HRESULT CreateControl(REFIID iid, void** out) {
+HRESULT CreateServerObject(REFCLSID clsid, REFIID iid, void** out) {
   using GetClassObject = HRESULT(STDAPICALLTYPE*)(REFCLSID, REFIID, void**);
   const auto get =
       reinterpret_cast<GetClassObject>(reinterpret_cast<void*>(GetProcAddress(Server(), "DllGetClassObject")));
   if (!get) return E_FAIL;
   IClassFactory* factory = nullptr;
-  HRESULT result = get(CLSID_Vorlex, IID_IClassFactory, reinterpret_cast<void**>(&factory));
+  HRESULT result = get(clsid, IID_IClassFactory, reinterpret_cast<void**>(&factory));
   if (FAILED(result)) return result;
   result = factory->CreateInstance(nullptr, iid, out);
   factory->Release();
   return result;
 }
+
+HRESULT CreateControl(REFIID iid, void** out) { return CreateServerObject(CLSID_Vorlex, iid, out); }
 
 HRESULT CanUnloadNow() {
   using CanUnload = HRESULT(STDAPICALLTYPE*)();

@@ -40,6 +40,8 @@ class Ref {
 // The server's module, loaded once for the test program.
 HMODULE Server();
 std::wstring ServerPath();
+// A new object of one of the module's classes, through its class object.
+HRESULT CreateServerObject(REFCLSID clsid, REFIID iid, void** out);
 // A new control through the module's class object.
 HRESULT CreateControl(REFIID iid, void** out);
 HRESULT CanUnloadNow();

@@ -70,19 +70,6 @@ long FakeAboutSystem::RegCloseKey(uintptr_t key) {
 
 bool FakeAboutSystem::FileExists(const std::string&) { return false; }
 
-HRESULT CreateServerObject(REFCLSID clsid, REFIID iid, void** out) {
-  using GetClassObject = HRESULT(STDAPICALLTYPE*)(REFCLSID, REFIID, void**);
-  const auto get =
-      reinterpret_cast<GetClassObject>(reinterpret_cast<void*>(GetProcAddress(Server(), "DllGetClassObject")));
-  if (!get) return E_FAIL;
-  IClassFactory* factory = nullptr;
-  HRESULT result = get(clsid, IID_IClassFactory, reinterpret_cast<void**>(&factory));
-  if (FAILED(result)) return result;
-  result = factory->CreateInstance(nullptr, iid, out);
-  factory->Release();
-  return result;
-}
-
 void PageTest::SetUp() {
   OcxTest::SetUp();
   INITCOMMONCONTROLSEX controls{sizeof controls, ICC_TAB_CLASSES};

@@ -78,8 +78,6 @@ class RecordedErrors final : public ErrorReporter {
   std::vector<std::string> texts;
 };
 
-HRESULT CreateServerObject(REFCLSID clsid, REFIID iid, void** out);
-
 class PageTest : public OcxTest {
  protected:
   void SetUp() override;

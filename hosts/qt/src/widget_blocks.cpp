@@ -29,12 +29,12 @@ namespace vorlex::qt {
     d->control.put_##Name(ToOleColor(color), BlockArgument(block));       \
   }
 
-#define VORLEX_BLOCK_BOOL(getter, setter, Name)                                        \
-  bool VorlexWidget::getter(const QVariant& block) const {                             \
-    return d->control.get_##Name(BlockArgument(block)) != VARIANT_FALSE;               \
-  }                                                                                    \
-  void VorlexWidget::setter(bool value, const QVariant& block) {                       \
-    d->control.put_##Name(value ? VARIANT_TRUE : VARIANT_FALSE, BlockArgument(block)); \
+#define VORLEX_BLOCK_BOOL(getter, setter, Name)                          \
+  bool VorlexWidget::getter(const QVariant& block) const {               \
+    return d->control.get_##Name(BlockArgument(block)) != VARIANT_FALSE; \
+  }                                                                      \
+  void VorlexWidget::setter(bool value, const QVariant& block) {         \
+    d->control.put_##Name(ToVariantBool(value), BlockArgument(block));   \
   }
 
 VORLEX_BLOCK_INT(blockBarLeft, setBlockBarLeft, BlockBarLeft)

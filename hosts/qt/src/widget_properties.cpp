@@ -38,10 +38,10 @@ void Guarded(const char* name, Put put) {
     Guarded(#Name, [&] { d->control.put_##Name(ToOleColor(color)); });              \
   }
 
-#define VORLEX_BOOL_PROPERTY(getter, setter, Name)                                        \
-  bool VorlexWidget::getter() const { return d->control.get_##Name() != VARIANT_FALSE; }  \
-  void VorlexWidget::setter(bool value) {                                                 \
-    Guarded(#Name, [&] { d->control.put_##Name(value ? VARIANT_TRUE : VARIANT_FALSE); }); \
+#define VORLEX_BOOL_PROPERTY(getter, setter, Name)                                       \
+  bool VorlexWidget::getter() const { return d->control.get_##Name() != VARIANT_FALSE; } \
+  void VorlexWidget::setter(bool value) {                                                \
+    Guarded(#Name, [&] { d->control.put_##Name(ToVariantBool(value)); });                \
   }
 
 VORLEX_COLOR_PROPERTY(backColor, setBackColor, BackColor)

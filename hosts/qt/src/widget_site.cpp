@@ -85,7 +85,7 @@ void WidgetSite::SetForeColor(OLE_COLOR color) {
   widget_.setPalette(palette);
 }
 
-VARIANT_BOOL WidgetSite::Enabled() const { return widget_.isEnabled() ? VARIANT_TRUE : VARIANT_FALSE; }
+VARIANT_BOOL WidgetSite::Enabled() const { return ToVariantBool(widget_.isEnabled()); }
 void WidgetSite::SetEnabled(VARIANT_BOOL enabled) { widget_.setEnabled(enabled != VARIANT_FALSE); }
 
 void WidgetSite::SetFont(FontPtr font) {
